@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// The numeric types and helpers that every rule of the system computes with.
+#include "engine/numeric.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace vesk {
+
+void fail(const char* description) { throw RunTimeFailure(description); }
+
+Single toSingle(Double value) {
+    // A Double a little above the largest Single still rounds to it; only a value
+    // that would become infinite, or is not a number, overflows.
+    const Single single = static_cast<Single>(value);
+    if (!std::isfinite(value) || std::isinf(single)) {
+        fail(failure::overflow);
+    }
+    return single;
+}
+
+namespace {
+
+template <typename T> T roundToIntegral(Double value) {
+    const Double rounded = std::nearbyint(value);
+    if (!(rounded >= static_cast<Double>(std::numeric_limits<T>::min()) &&
+          rounded <= static_cast<Double>(std::numeric_limits<T>::max()))) {
+        fail(failure::overflow);
+    }
+    return static_cast<T>(rounded);
+}
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view trimBlanks(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+// Length of the number that stands at the front of `text` (sign, digits, one
+// point, exponent), or 0 when no digit stands there.
+std::size_t numberPrefixLength(std::string_view text) {
+    std::size_t i = 0;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) {
+        ++i;
+    }
+    std::size_t digits = 0;
+    while (i < text.size() && isDigit(text[i])) {
+        ++i;
+        ++digits;
+    }
+    if (i < text.size() && text[i] == '.') {
+        ++i;
+        while (i < text.size() && isDigit(text[i])) {
+            ++i;
+            ++digits;
+        }
+    }
+    if (digits == 0) {
+        return 0;
+    }
+    if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+        std::size_t j = i + 1;
+        if (j < text.size() && (text[j] == '+' || text[j] == '-')) {
+            ++j;
+        }
+        std::size_t exponentDigits = 0;
+        while (j < text.size() && isDigit(text[j])) {
+            ++j;
+            ++exponentDigits;
+        }
+        if (exponentDigits > 0) {
+            i = j;
+        }
+    }
+    return i;
+}
+
+// Converts a text that is exactly one number of the form above.
+Double convertNumber(std::string_view number) {
+    if (!number.empty() && number.front() == '+') {
+        number.remove_prefix(1);
+    }
+    Double value = 0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        // Too large overflows; too small is 0, as the platform reads it.
+        const auto exponent = number.find_first_of("eE");
+        if (exponent != std::string_view::npos && number.find('-', exponent) != std::string_view::npos) {
+            return 0;
+        }
+        fail(failure::overflow);
+    }
+    if (error != std::errc{} || end != number.data() + number.size()) {
+        fail(failure::typeMismatch);
+    }
+    return value;
+}
+
+// Makes the exponent of a to_chars text look as the platform writes it: "1E+08".
+std::string platformExponent(std::string text) {
+    const auto e = text.find('e');
+    if (e == std::string::npos) {
+        return text;
+    }
+    std::string mantissa = text.substr(0, e);
+    std::string exponent = text.substr(e + 1);
+    const char sign = exponent.front();
+    std::string digits = exponent.substr(1);
+    while (digits.size() < 2) {
+        digits.insert(digits.begin(), '0');
+    }
+    return mantissa + "E" + sign + digits;
+}
+
+std::string generalText(Double value, int significantDigits) {
+    if (value == 0) {
+        return "0"; // also for a negative zero
+    }
+    char buffer[64];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, significantDigits);
+    return platformExponent(std::string(buffer, result.ptr));
+}
+
+} // namespace
+
+Integer toInteger(Double value) { return roundToIntegral<Integer>(value); }
+Long toLong(Double value) { return roundToIntegral<Long>(value); }
+Byte toByte(Double value) { return roundToIntegral<Byte>(value); }
+
+Double roundHalfEven(Double value, int decimals) {
+    const Double scale = std::pow(10.0, decimals);
+    const Double result = std::nearbyint(value * scale) / scale;
+    if (!std::isfinite(result)) {
+        fail(failure::overflow);
+    }
+    return result;
+}
+
+Double divide(Double numerator, Double denominator) {
+    if (denominator == 0) {
+        fail(numerator == 0 ? failure::overflow : failure::divisionByZero);
+    }
+    const Double quotient = numerator / denominator;
+    if (!std::isfinite(quotient)) {
+        fail(failure::overflow);
+    }
+    return quotient;
+}
+
+std::string singleText(Single value) { return generalText(value, 7); }
+std::string doubleText(Double value) { return generalText(value, 15); }
+std::string integerText(Long value) { return std::to_string(value); }
+
+Double parseNumber(std::string_view text) {
+    const std::string_view number = trimBlanks(text);
+    if (number.empty() || numberPrefixLength(number) != number.size()) {
+        fail(failure::typeMismatch);
+    }
+    return convertNumber(number);
+}
+
+Single parseSingle(std::string_view text) { return toSingle(parseNumber(text)); }
+
+Integer parseInteger(std::string_view text) { return toInteger(parseNumber(text)); }
+
+Double leadingNumber(std::string_view text) {
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    const std::size_t length = numberPrefixLength(text);
+    if (length == 0) {
+        return 0;
+    }
+    return convertNumber(text.substr(0, length));
+}
+
+namespace {
+bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
+        if (lower(a[i]) != lower(b[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+} // namespace
+
+bool parseBoolean(std::string_view text) {
+    const std::string_view word = trimBlanks(text);
+    if (equalsIgnoringCase(word, "#TRUE#") || equalsIgnoringCase(word, "True")) {
+        return true;
+    }
+    if (equalsIgnoringCase(word, "#FALSE#") || equalsIgnoringCase(word, "False")) {
+        return false;
+    }
+    return parseNumber(word) != 0;
+}
+
+} // namespace vesk

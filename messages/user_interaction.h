@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// The one seam through which the system shows boxes and asks the user.
+#pragma once
+
+#include "messages/message_catalogue.h"
+
+#include <string>
+#include <string_view>
+
+namespace vesk {
+
+// Every modal box of the system goes through this interface: the desktop
+// program shows real boxes, the command-line calculator writes to stderr, and
+// tests record what was shown.
+class UserInteraction {
+  public:
+    virtual ~UserInteraction() = default;
+    // A box with the text and an Ok button, under the window's default title.
+    virtual void showMessageBox(std::string_view text, MessageIcon icon) = 0;
+};
+
+// Shows a numbered message; a code outside the catalogue shows nothing.
+void ShowMessage(int code, UserInteraction& ui);
+
+// The end of the process that a fatal message announces: main() turns it into
+// the exit. Nothing is written on that path.
+class ProcessEnd {
+  public:
+    explicit ProcessEnd(int messageCode) : m_messageCode(messageCode) {}
+    int messageCode() const { return m_messageCode; }
+
+  private:
+    int m_messageCode;
+};
+
+// Shows a numbered message and ends the process.
+[[noreturn]] void EndWithMessage(int code, UserInteraction& ui);
+
+} // namespace vesk
