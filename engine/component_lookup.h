@@ -53,6 +53,12 @@ ResolvedComponents ResolveComponents(const SiteDescription& site, const Catalogu
 // equal to `flowGpm`, fail with "Overflow" (0 by 0).
 Single LookupLoss(const ResolvedLookup& lookup, Single flowGpm);
 
+// Loss in feet of the hose selection at `flowGpm`: the interpolated loss R of
+// the record that holds the flow, scaled from the record's HoseLength to the
+// hose length entered, `hoseLengthFt` x R / HoseLength. 0 when no record holds
+// the flow; a HoseLength of 0 at that record fails as a division.
+Single HoseLoss(const ResolvedLookup& hose, Single hoseLengthFt, Single flowGpm);
+
 // The seven lookups, each on its own: loss in feet at `flowGpm` (the total flow
 // for LeakLoss, the flow of one nozzle for the others).
 Single LeakLoss(const SiteDescription& site, const Catalogues& catalogues, Single flowGpm);

@@ -9,7 +9,9 @@
 
 namespace vesk {
 
-void fail(const char* description) { throw RunTimeFailure(description); }
+void fail(const char* description) {
+    throw RunTimeFailure(description);
+}
 
 Single toSingle(Double value) {
     // A Double a little above the largest Single still rounds to it; only a value
@@ -32,7 +34,9 @@ template <typename T> T roundToIntegral(Double value) {
     return static_cast<T>(rounded);
 }
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view trimBlanks(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) {
@@ -44,7 +48,9 @@ std::string_view trimBlanks(std::string_view text) {
     return text;
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Length of the number that stands at the front of `text` (sign, digits, one
 // point, exponent), or 0 when no digit stands there.
@@ -134,9 +140,15 @@ std::string generalText(Double value, int significantDigits) {
 
 } // namespace
 
-Integer toInteger(Double value) { return roundToIntegral<Integer>(value); }
-Long toLong(Double value) { return roundToIntegral<Long>(value); }
-Byte toByte(Double value) { return roundToIntegral<Byte>(value); }
+Integer toInteger(Double value) {
+    return roundToIntegral<Integer>(value);
+}
+Long toLong(Double value) {
+    return roundToIntegral<Long>(value);
+}
+Byte toByte(Double value) {
+    return roundToIntegral<Byte>(value);
+}
 
 Double roundHalfEven(Double value, int decimals) {
     const Double scale = std::pow(10.0, decimals);
@@ -158,9 +170,15 @@ Double divide(Double numerator, Double denominator) {
     return quotient;
 }
 
-std::string singleText(Single value) { return generalText(value, 7); }
-std::string doubleText(Double value) { return generalText(value, 15); }
-std::string integerText(Long value) { return std::to_string(value); }
+std::string singleText(Single value) {
+    return generalText(value, 7);
+}
+std::string doubleText(Double value) {
+    return generalText(value, 15);
+}
+std::string integerText(Long value) {
+    return std::to_string(value);
+}
 
 Double parseNumber(std::string_view text) {
     const std::string_view number = trimBlanks(text);
@@ -170,9 +188,13 @@ Double parseNumber(std::string_view text) {
     return convertNumber(number);
 }
 
-Single parseSingle(std::string_view text) { return toSingle(parseNumber(text)); }
+Single parseSingle(std::string_view text) {
+    return toSingle(parseNumber(text));
+}
 
-Integer parseInteger(std::string_view text) { return toInteger(parseNumber(text)); }
+Integer parseInteger(std::string_view text) {
+    return toInteger(parseNumber(text));
+}
 
 Double leadingNumber(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) {
