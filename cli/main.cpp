@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// vesk-calc: the flows per nozzle of a site, calculated without a window.
+#include "engine/numeric.h"
+#include "messages/user_interaction.h"
+#include "site/startup.h"
+
+#include <charconv>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--csv] [--details] [SITE_FILE]";
+
+constexpr int exitFatalMessage = 1;
+constexpr int exitUsage = 2;
+constexpr int exitRunTimeFailure = 3;
+
+struct Options {
+    std::filesystem::path programFolder;
+    bool csv = false;
+    bool details = false;
+    std::optional<std::string> siteFile;
+};
+
+// Every box the system shows goes to stderr; nothing waits for an answer.
+class StderrInteraction : public vesk::UserInteraction {
+  public:
+    void showMessageBox(std::string_view text, vesk::MessageIcon) override { std::cerr << text << '\n'; }
+};
+
+std::filesystem::path executableFolder() {
+    std::error_code error;
+    const auto executable = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::current_path() : executable.parent_path();
+}
+
+std::optional<Options> parseArguments(int argc, char** argv) {
+    Options options;
+    options.programFolder = executableFolder();
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--dir" && i + 1 < argc) {
+            options.programFolder = argv[++i];
+        } else if (argument == "--csv") {
+            options.csv = true;
+        } else if (argument == "--details") {
+            options.details = true;
+        } else if (!argument.starts_with("-") && !options.siteFile) {
+            options.siteFile = std::string(argument);
+        } else {
+            return std::nullopt;
+        }
+    }
+    return options;
+}
+
+// A Single with 9 significant digits, enough to read back the same Single.
+std::string preciseText(vesk::Single value) {
+    char buffer[32];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, static_cast<double>(value), std::chars_format::general, 9);
+    return std::string(buffer, result.ptr);
+}
+
+// The number of nozzles swept is one less than the size of the lists.
+long nozzlesSwept(const vesk::FlowTable& table) {
+    return static_cast<long>(table.GpmList.size()) - 1;
+}
+
+void printCsv(const vesk::FlowTable& table) {
+    std::cout << "nozzles,gpm_per_nozzle,lpm_per_nozzle\n";
+    for (long n = 1; n <= nozzlesSwept(table); ++n) {
+        std::cout << n << ',' << vesk::singleText(vesk::at(table.GpmPerNozzle, n)) << ','
+                  << vesk::singleText(vesk::at(table.LpmPerNozzle, n)) << '\n';
+    }
+}
+
+std::string padLeft(const std::string& text, std::size_t width) {
+    return text.size() >= width ? text : std::string(width - text.size(), ' ') + text;
+}
+
+void printTable(const vesk::ApplicationState& app) {
+    const vesk::FlowTable& table = app.results.Current;
+    std::cout << "Site: " << app.strSiteFile << "\n\n";
+    std::cout << "Nozzles running   GPM per nozzle   LPM per nozzle\n";
+    for (long n = 1; n <= nozzlesSwept(table); ++n) {
+        std::cout << padLeft(std::to_string(n), 15) << padLeft(vesk::singleText(vesk::at(table.GpmPerNozzle, n)), 17)
+                  << padLeft(vesk::singleText(vesk::at(table.LpmPerNozzle, n)), 17) << '\n';
+    }
+}
+
+void printDetails(vesk::ApplicationState& app) {
+    const vesk::SiteDescription site = vesk::BuildSiteDescription(app.panel, app.config);
+    const vesk::HydraulicSite hydraulics(site, app.piping, app.catalogues);
+    vesk::DetailsStepping(hydraulics, app.results.engine);
+    const vesk::HeadLossBreakdown& b = app.results.engine.Breakdown;
+    const std::pair<const char*, vesk::Single> fields[] = {
+        {"TotalRise", b.TotalRise},         {"LeakDetectorLoss", b.LeakDetectorLoss},
+        {"TrunkLoss", b.TrunkLoss},         {"BranchLoss", b.BranchLoss},
+        {"DispenserLoss", b.DispenserLoss}, {"DispOthersLoss", b.DispOthersLoss},
+        {"BreakawayLoss", b.BreakawayLoss}, {"HoseLoss", b.HoseLoss},
+        {"NozzleLoss", b.NozzleLoss},       {"PumpOthersLoss", b.PumpOthersLoss},
+        {"TotalHead", b.TotalHead},         {"flow_gpm", app.results.engine.TrialFlow},
+    };
+    for (const auto& [name, value] : fields) {
+        std::cout << name << ',' << preciseText(value) << '\n';
+    }
+}
+
+int run(const Options& options) {
+    if (options.siteFile) {
+        std::cerr << "vesk-calc: site files are not yet supported\n";
+        return exitUsage;
+    }
+    StderrInteraction ui;
+    vesk::ApplicationState app;
+    app.programFolder = options.programFolder;
+    try {
+        vesk::InitialiseMainWindow(app, ui);
+        if (options.details) {
+            printDetails(app);
+        } else if (options.csv) {
+            printCsv(app.results.Current);
+        } else {
+            printTable(app);
+        }
+    } catch (const vesk::ProcessEnd&) {
+        return exitFatalMessage; // its message is already on stderr
+    } catch (const vesk::RunTimeFailure& failure) {
+        std::cerr << "Run-time error: " << failure.what() << '\n';
+        return exitRunTimeFailure;
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::optional<Options> options = parseArguments(argc, argv);
+    if (!options) {
+        std::cerr << usage << '\n';
+        return exitUsage;
+    }
+    return run(*options);
+}

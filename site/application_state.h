@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// Everything the program keeps from its initialisation to its end.
+#pragma once
+
+#include "catalogue/catalogues.h"
+#include "catalogue/piping_tables.h"
+#include "engine/flow_sweep.h"
+#include "site/configure_data.h"
+#include "site/panel_state.h"
+#include "site/settings_file.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace vesk {
+
+// The flags of the workflow and of the units the fields stand in now.
+struct WorkflowFlags {
+    bool blnSaved = false;
+    bool blnUSActive = true;
+    bool blnMetricActive = false;
+    bool NeedBaseline = true;
+    bool ChartNotDrawnYet = true;
+    bool BaselineGridPending = false;
+    bool CurrentInLitres = false;
+    bool BaselineInLitres = false;
+    bool blnQuietNozzleCheck = false;
+};
+
+// The results of the two sweeps and what the engine leaves behind.
+struct ResultTables {
+    FlowTable Current;
+    FlowTable Baseline;
+    std::vector<Single> NozzleLabels; // shared by both tables
+    EngineScratch engine;
+};
+
+struct ApplicationState {
+    std::filesystem::path programFolder;
+    std::string strSiteFile;
+
+    Catalogues catalogues;
+    PipingTables piping;
+    clsConfigureData config;
+    IniRawLines iniRawLines;
+
+    PanelState panel;
+    WorkflowFlags flags;
+
+    Integer NoOfNozzles = 0;
+    Integer ChartNozzles = 0;
+    Integer LastChartNozzles = 0;
+    ResultTables results;
+};
+
+} // namespace vesk

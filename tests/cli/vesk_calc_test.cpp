@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// vesk-calc from the outside: its output, its messages and its exit codes.
+#include "support/temp_program_folder.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <sys/wait.h>
+
+namespace vesk {
+namespace {
+
+using test::TempProgramFolder;
+
+struct CalcRun {
+    std::string out;
+    std::string err;
+    int exitCode = -1;
+};
+
+std::string readFile(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// Runs vesk-calc with the arguments, catching stdout and stderr apart.
+CalcRun runCalc(const std::string& arguments) {
+    const auto errFile = std::filesystem::temp_directory_path() / ("vesk-calc-err-" + std::to_string(::getpid()));
+    const std::string command = std::string("'") + VESK_CALC + "' " + arguments + " 2>'" + errFile.string() + "'";
+    CalcRun run;
+    FILE* pipe = ::popen(command.c_str(), "r");
+    if (pipe == nullptr) {
+        ADD_FAILURE() << "cannot run " << command;
+        return run;
+    }
+    std::array<char, 4096> buffer{};
+    std::size_t count = 0;
+    while ((count = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0) {
+        run.out.append(buffer.data(), count);
+    }
+    const int status = ::pclose(pipe);
+    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    run.err = readFile(errFile);
+    std::filesystem::remove(errFile);
+    return run;
+}
+
+std::string golden(const char* name) {
+    return readFile(std::filesystem::path(VESK_CLI_GOLDEN_DIR) / name);
+}
+
+std::string dirOf(const TempProgramFolder& folder) {
+    return "--dir '" + folder.path().string() + "'";
+}
+
+TEST(VeskCalc, CsvOfTheShippedFolderMatchesItsGoldenFile) {
+    const CalcRun run = runCalc("--csv --dir '" + test::shippedDataDir().string() + "'");
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, golden("shipped_startup.csv"));
+}
+
+TEST(VeskCalc, DetailsOfTheShippedFolderMatchItsGoldenFile) {
+    const CalcRun run = runCalc("--details --dir '" + test::shippedDataDir().string() + "'");
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("shipped_startup_details.csv"));
+}
+
+TEST(VeskCalc, TheReadableTableHoldsTheSameNumbers) {
+    const CalcRun table = runCalc("--dir '" + test::shippedDataDir().string() + "'");
+    const CalcRun csv = runCalc("--csv --dir '" + test::shippedDataDir().string() + "'");
+    EXPECT_EQ(table.exitCode, 0);
+    std::istringstream lines(csv.out);
+    std::string line;
+    std::getline(lines, line); // header
+    while (std::getline(lines, line)) {
+        const auto first = line.find(',');
+        const auto second = line.find(',', first + 1);
+        const std::string gpm = line.substr(first + 1, second - first - 1);
+        EXPECT_NE(table.out.find(" " + gpm + " "), std::string::npos) << gpm;
+    }
+}
+
+TEST(VeskCalc, WithoutDirItUsesTheFolderOfTheExecutable) {
+    const CalcRun fromBuildTree = runCalc("--csv");
+    EXPECT_EQ(fromBuildTree.exitCode, 0) << fromBuildTree.err;
+    EXPECT_EQ(fromBuildTree.out, golden("shipped_startup.csv"));
+}
+
+TEST(VeskCalc, AMetricSettingsFileGivesTheSameFlows) {
+    // The default numbers are converted to metric and back into feet by the
+    // engine; 243.8 cm and 0.9 m are not exactly 96 in and 3 ft.
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.writeLines("Vesk.ini", {"40", "4", "True", "False", "A"});
+    const CalcRun run = runCalc("--csv " + dirOf(folder));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("metric_startup.csv"));
+}
+
+TEST(VeskCalc, AMissingFilePrintsItsMessageAndExits1) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.remove("Components/PIPING.DAT");
+    const CalcRun run = runCalc(dirOf(folder));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "Piping data file does not exist\n");
+    EXPECT_EQ(run.out, "");
+}
+
+TEST(VeskCalc, ADamagedFilePrintsItsMessageAndExits1) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.write("Components/PUMP.DAT", folder.read("Components/PUMP.DAT") + "\r\n");
+    const CalcRun run = runCalc(dirOf(folder));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "Problem in reading Pump Data file\n");
+}
+
+TEST(VeskCalc, AMissingSettingsFilePrintsItsMessageAndExits1) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.remove("Vesk.ini");
+    const CalcRun run = runCalc(dirOf(folder));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "INI file does not exist\n");
+}
+
+TEST(VeskCalc, ABadThirdSettingsLineWarnsAndCalculatesForDiesel) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.writeLines("Vesk.ini", {"40", "4", "Petrol", "True", "A"});
+    const CalcRun run = runCalc("--csv " + dirOf(folder));
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "INI File Corrupted. Cannot Load Application\n");
+    EXPECT_EQ(run.out, golden("diesel_startup.csv"));
+}
+
+TEST(VeskCalc, LowerCaseFileNamesAreFound) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    std::filesystem::rename(folder.path() / "Components" / "PUMP.DAT", folder.path() / "Components" / "pump.dat");
+    std::filesystem::rename(folder.path() / "Components" / "HOSES.DAT", folder.path() / "Components" / "Hoses.DAT");
+    const CalcRun run = runCalc("--csv " + dirOf(folder));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("shipped_startup.csv"));
+}
+
+TEST(VeskCalc, AOneRecordDispenserCatalogueEndsWithARunTimeFailure) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.writeLines("Components/DISP.DAT",
+                      {"$Only #AIC", "#TRUE#", "#Standard#", "#RATELOSS_BEGIN#", "0,0", "30,10", "#RATELOSS_END#"});
+    const CalcRun run = runCalc(dirOf(folder));
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, "Run-time error: Invalid property value\n");
+}
+
+TEST(VeskCalc, AOneRecordPumpCatalogueEndsWithARunTimeFailure) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.writeLines("Components/PUMP.DAT", {"$Only pump #AIC", "#FALSE#", "#Standard#", "#RATELOSS_BEGIN#", "0,100",
+                                              "50,0", "#RATELOSS_END#"});
+    const CalcRun run = runCalc("--csv " + dirOf(folder));
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, "Run-time error: Invalid property value\n");
+    EXPECT_EQ(run.out, "");
+}
+
+TEST(VeskCalc, APumpStandingLastInItsFileGivesNoFlow) {
+    // The last record of a catalogue is never searched: the pump is listed
+    // and selected, but its head is 0 at every flow.
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    folder.writeLines("Components/PUMP.DAT", {"$Other pump #AIC", "#TRUE#", "#Standard#", "#RATELOSS_BEGIN#", "0,100",
+                                              "50,0", "#RATELOSS_END#", "$Last pump #AIC", "#FALSE#", "#Standard#",
+                                              "#RATELOSS_BEGIN#", "0,100", "50,0", "#RATELOSS_END#"});
+    const CalcRun run = runCalc("--csv " + dirOf(folder));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out,
+              "nozzles,gpm_per_nozzle,lpm_per_nozzle\n1,0,0\n2,0,0\n3,0,0\n4,0,0\n5,0,0\n6,0,0\n7,0,0\n8,0,0\n");
+}
+
+TEST(VeskCalc, BadUsageExits2WithAUsageLine) {
+    for (const char* arguments : {"--bogus", "--dir", "a.txt b.txt"}) {
+        const CalcRun run = runCalc(arguments);
+        EXPECT_EQ(run.exitCode, 2) << arguments;
+        EXPECT_EQ(run.err.rfind("usage: vesk-calc", 0), 0U) << run.err;
+    }
+}
+
+TEST(VeskCalc, ASiteFileIsNotYetSupported) {
+    const CalcRun run = runCalc("some_site.txt");
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_NE(run.err.find("not yet supported"), std::string::npos);
+}
+
+} // namespace
+} // namespace vesk
