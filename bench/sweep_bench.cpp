@@ -12,7 +12,8 @@
 namespace {
 
 // The shipped start-up site made a typical station: 40 nozzles on four
-// branches, 150 ft of trunk and 60 ft of branch with their fittings, 8 ft hoses.
+// branches fed by two 1-1/2 HP pumps, 150 ft of 2" trunk and 60 ft of branch
+// with their fittings, 8 ft hoses.
 vesk::ApplicationState typicalSite() {
     vesk::bench::SilentInteraction ui;
     vesk::ApplicationState app;
@@ -20,6 +21,8 @@ vesk::ApplicationState typicalSite() {
     vesk::InitialiseMainWindow(app, ui);
     vesk::PanelState& panel = app.panel;
     panel.txtNoOfNozzle = "40";
+    panel.cmbPumps.SetListIndex(panel.cmbPumps.FindEntry("STP 1-1/2 HP"));
+    panel.cmbQuantity.SetListIndex(1);
     panel.cmbNoOfBranches.SetListIndex(3);
     panel.cmbTrunk.SetListIndex(1);
     panel.cmbBranch.SetListIndex(0);

@@ -13,16 +13,6 @@ void fail(const char* description) {
     throw RunTimeFailure(description);
 }
 
-Single toSingle(Double value) {
-    // A Double a little above the largest Single still rounds to it; only a value
-    // that would become infinite, or is not a number, overflows.
-    const Single single = static_cast<Single>(value);
-    if (!std::isfinite(value) || std::isinf(single)) {
-        fail(failure::overflow);
-    }
-    return single;
-}
-
 namespace {
 
 template <typename T> T roundToIntegral(Double value) {
@@ -157,17 +147,6 @@ Double roundHalfEven(Double value, int decimals) {
         fail(failure::overflow);
     }
     return result;
-}
-
-Double divide(Double numerator, Double denominator) {
-    if (denominator == 0) {
-        fail(numerator == 0 ? failure::overflow : failure::divisionByZero);
-    }
-    const Double quotient = numerator / denominator;
-    if (!std::isfinite(quotient)) {
-        fail(failure::overflow);
-    }
-    return quotient;
 }
 
 std::string singleText(Single value) {

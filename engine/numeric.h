@@ -3,6 +3,7 @@
 // The numeric types and helpers that every rule of the system computes with.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -39,8 +40,16 @@ inline constexpr const char* invalidProperty = "Invalid property value";
 [[noreturn]] void fail(const char* description);
 
 // Stores a Double as a Single. A value beyond the range of a Single is an
-// overflow, as is a value that is not a number.
-Single toSingle(Double value);
+// overflow, as is a value that is not a number. A Double a little above the
+// largest Single still rounds to it; only a value that would become infinite
+// overflows. Inline: the sweep stores a Single some thirty times a step.
+inline Single toSingle(Double value) {
+    const Single single = static_cast<Single>(value);
+    if (!std::isfinite(value) || std::isinf(single)) {
+        fail(failure::overflow);
+    }
+    return single;
+}
 
 // Integer conversions round half to even and fail with "Overflow" outside the
 // range of the type.
@@ -54,7 +63,16 @@ Double roundHalfEven(Double value, int decimals);
 
 // A / B as the platform divides: B = 0 fails with "Division by zero", and 0 / 0
 // with "Overflow"; a quotient that is not finite is an overflow.
-Double divide(Double numerator, Double denominator);
+inline Double divide(Double numerator, Double denominator) {
+    if (denominator == 0) {
+        fail(numerator == 0 ? failure::overflow : failure::divisionByZero);
+    }
+    const Double quotient = numerator / denominator;
+    if (!std::isfinite(quotient)) {
+        fail(failure::overflow);
+    }
+    return quotient;
+}
 
 // Text of a Single: at most 7 significant digits, no trailing zeros and no
 // trailing point ("12.3", "0", "46.6", "0.5", "1E+10" for large magnitudes).
