@@ -4,6 +4,7 @@
 #include "catalogue/component_file.h"
 
 #include "catalogue/data_file_path.h"
+#include "catalogue/platform_text.h"
 #include "engine/numeric.h"
 
 #include <optional>
@@ -27,32 +28,6 @@ std::string componentsPath(std::string_view fileName) {
 // The next line of the record, blank lines skipped.
 std::string nextLine(TextLineReader& stream) {
     return RemoveBlankLine(stream.readLine(), stream);
-}
-
-// Left(text, length) of the platform: a negative length is an invalid call, a
-// length beyond the text gives the whole text.
-std::string_view leftOf(std::string_view text, long length) {
-    if (length < 0) {
-        fail(failure::invalidCall);
-    }
-    return text.substr(0, static_cast<std::size_t>(length));
-}
-
-// Mid(text, start) of the platform, 1-based: the text from `start` on; a start
-// beyond the text gives the empty text.
-std::string_view midOf(std::string_view text, long start) {
-    if (start < 1) {
-        fail(failure::invalidCall);
-    }
-    const auto from = static_cast<std::size_t>(start - 1);
-    return from >= text.size() ? std::string_view{} : text.substr(from);
-}
-
-// InStr(text, "c") of the platform: the 1-based position of the first `c`, 0
-// when there is none.
-long positionOf(std::string_view text, char c) {
-    const std::size_t index = text.find(c);
-    return index == std::string_view::npos ? 0 : static_cast<long>(index) + 1;
 }
 
 // Splits a header "$Name #Codes". With p the position of the first "#", the

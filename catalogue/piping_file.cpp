@@ -4,6 +4,7 @@
 #include "catalogue/piping_file.h"
 
 #include "catalogue/data_file_path.h"
+#include "catalogue/platform_text.h"
 #include "catalogue/text_lines.h"
 #include "engine/numeric.h"
 
@@ -23,42 +24,23 @@ constexpr int pipingMissingMessage = 27;
 constexpr int pipingDamagedMessage = 33;
 constexpr std::array<std::string_view, fittingTypeCount> fittingKeys{"$L0", "$L1", "$L2", "$L3"};
 
-// Element `index` of a table of fixed size, failing with "Subscript out of
-// range" outside it.
-template <typename T, std::size_t N> T& slot(std::array<T, N>& values, long index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= N) {
-        fail(failure::subscript);
-    }
-    return values[static_cast<std::size_t>(index)];
-}
-
 // A key line is known by its first three characters; whatever follows them is
 // free text.
 bool opensWith(std::string_view line, std::string_view key) {
     return line.substr(0, 3) == key;
 }
 
-// The 1-based position of the first comma, 0 when there is none.
-long commaPosition(std::string_view line) {
-    const std::size_t index = line.find(',');
-    return index == std::string_view::npos ? 0 : static_cast<long>(index) + 1;
-}
-
 // The name of a "name, comma, value" line: the text before the first comma. A
 // line without a comma asks for a negative length, which fails.
 std::string nameBeforeComma(std::string_view line) {
-    const long comma = commaPosition(line);
-    if (comma - 1 < 0) {
-        fail(failure::invalidCall);
-    }
-    return std::string(line.substr(0, static_cast<std::size_t>(comma - 1)));
+    return std::string(leftOf(line, positionOf(line, ',') - 1));
 }
 
 // The value of a "name, comma, value" or "label, comma, value" line: the text
 // behind the first comma, or the whole line when it has no comma, converted
 // strictly to Single.
 Single valueBehindComma(std::string_view line) {
-    return parseSingle(line.substr(static_cast<std::size_t>(commaPosition(line))));
+    return parseSingle(midOf(line, positionOf(line, ',') + 1));
 }
 
 // Setting a list to its first entry: a list without entries has none, and the
@@ -82,7 +64,7 @@ void readNamedValues(TextLineReader& stream, std::string_view key, std::vector<s
     long index = 0;
     for (std::string line = stream.readLine(); !opensWith(line, key); line = stream.readLine()) {
         names.push_back(nameBeforeComma(line));
-        slot(values, index) = valueBehindComma(line);
+        at(values, index) = valueBehindComma(line);
         ++index;
     }
 }
@@ -96,10 +78,10 @@ void readValves(TextLineReader& stream, std::array<ValveRecord, valveCount>& val
     }
     long row = 0;
     for (std::string line = stream.readLine(); !opensWith(line, "$VA"); line = stream.readLine()) {
-        ValveRecord& valve = slot(valves, row);
+        ValveRecord& valve = at(valves, row);
         valve.Name = line.size() > 1 ? line.substr(1) : std::string();
         for (long size = 0; size < pipeSizeCount; ++size) {
-            slot(valve.Length, size) = valueBehindComma(stream.readLine());
+            at(valve.Length, size) = valueBehindComma(stream.readLine());
         }
         ++row;
     }
@@ -115,7 +97,7 @@ std::array<Single, pipeSizeCount> readFittingSection(TextLineReader& stream, std
     }
     do {
         for (long size = 0; size < pipeSizeCount; ++size) {
-            slot(lengths, size) = valueBehindComma(stream.readLine());
+            at(lengths, size) = valueBehindComma(stream.readLine());
         }
     } while (!opensWith(stream.readLine(), key));
     return lengths;

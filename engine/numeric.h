@@ -3,6 +3,7 @@
 // The numeric types and helpers that every rule of the system computes with.
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <stdexcept>
@@ -111,6 +112,20 @@ template <typename T> T& at(std::vector<T>& values, long index) {
 }
 template <typename T> const T& at(const std::vector<T>& values, long index) {
     if (index < 0 || static_cast<unsigned long>(index) >= values.size()) {
+        fail(failure::subscript);
+    }
+    return values[static_cast<std::size_t>(index)];
+}
+
+// Element i of a fixed table, failing with "Subscript out of range" outside it.
+template <typename T, std::size_t N> T& at(std::array<T, N>& values, long index) {
+    if (index < 0 || static_cast<unsigned long>(index) >= N) {
+        fail(failure::subscript);
+    }
+    return values[static_cast<std::size_t>(index)];
+}
+template <typename T, std::size_t N> const T& at(const std::array<T, N>& values, long index) {
+    if (index < 0 || static_cast<unsigned long>(index) >= N) {
         fail(failure::subscript);
     }
     return values[static_cast<std::size_t>(index)];

@@ -9,15 +9,6 @@ namespace vesk {
 
 namespace {
 
-// Element `index` of a fixed table, failing with "Subscript out of range"
-// outside it, as every index into the piping tables does.
-template <typename T, std::size_t N> const T& at(const std::array<T, N>& values, long index) {
-    if (index < 0 || static_cast<unsigned long>(index) >= N) {
-        fail(failure::subscript);
-    }
-    return values[static_cast<std::size_t>(index)];
-}
-
 // Equivalent length in feet of one fitting type at one pipe size.
 Single fittingLengthFt(const PipingTables& piping, int fittingType, long sizeIndex) {
     return at(at(piping.FittingLength, fittingType), sizeIndex);

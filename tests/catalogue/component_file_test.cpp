@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the component data files: the reader, the writer and RemoveBlankLine.
+#include "support/failure_of.h"
 #include "support/recording_interaction.h"
 #include "support/temp_program_folder.h"
 
@@ -17,6 +18,8 @@
 
 namespace vesk {
 namespace {
+
+using test::failureOf;
 
 namespace fs = std::filesystem;
 using test::crlfLines;
@@ -74,16 +77,6 @@ void expectSameRecords(const Catalogue& actual, const Catalogue& expected) {
         EXPECT_EQ(a.Curve.Head, e.Curve.Head) << "record " << i;
         EXPECT_EQ(a.Curve.PointCount, e.Curve.PointCount) << "record " << i;
     }
-}
-
-// The description of the failure of `action`, or "" when it does not fail.
-template <typename Action> std::string failureOf(Action action) {
-    try {
-        action();
-    } catch (const RunTimeFailure& failure) {
-        return failure.what();
-    }
-    return "";
 }
 
 class ComponentFile : public testing::Test {

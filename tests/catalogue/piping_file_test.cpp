@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the piping data file reader.
+#include "support/failure_of.h"
 #include "support/recording_interaction.h"
 #include "support/temp_program_folder.h"
 
@@ -14,6 +15,8 @@
 
 namespace vesk {
 namespace {
+
+using test::failureOf;
 
 using test::RecordingInteraction;
 using test::TempProgramFolder;
@@ -56,15 +59,6 @@ const Lines allFittings = fittings("$L0", {"2.15", "2.76", "3.29", "4.09", "5.37
                           fittings("$L3", {"8.05", "10.34", "12.35", "15.34", "20.13"});
 
 const Lines wholeFile = materials + sizes + valves + allFittings;
-
-template <typename Action> std::string failureOf(Action action) {
-    try {
-        action();
-    } catch (const RunTimeFailure& failure) {
-        return failure.what();
-    }
-    return "";
-}
 
 class PipingFile : public testing::Test {
   protected:

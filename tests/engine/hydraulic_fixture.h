@@ -3,6 +3,8 @@
 // A small station, piping tables and catalogues built in memory for the engine tests.
 #pragma once
 
+#include "support/failure_of.h"
+
 #include "catalogue/catalogues.h"
 #include "catalogue/piping_tables.h"
 #include "engine/site_description.h"
@@ -18,17 +20,6 @@ namespace vesk::test {
 // The bits of a Single: the system's arithmetic is compared exactly.
 inline std::uint32_t bitsOf(Single value) {
     return std::bit_cast<std::uint32_t>(value);
-}
-
-// The description of the run-time failure that `action` ends in; empty when it
-// ends normally.
-template <typename Action> std::string failureOf(Action&& action) {
-    try {
-        action();
-    } catch (const RunTimeFailure& failure) {
-        return failure.what();
-    }
-    return {};
 }
 
 inline RateLossCurve curveOf(std::initializer_list<std::pair<Single, Single>> points) {

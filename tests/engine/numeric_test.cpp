@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The numeric helpers: rounding, integer conversion, number texts and parsing.
+#include "support/failure_of.h"
+
 #include "engine/numeric.h"
 
 #include <gtest/gtest.h>
@@ -9,13 +11,10 @@
 namespace vesk {
 namespace {
 
+using test::failureOf;
+
 void expectFailure(const char* description, auto&& action) {
-    try {
-        action();
-        ADD_FAILURE() << "expected the run-time failure " << description;
-    } catch (const RunTimeFailure& failure) {
-        EXPECT_STREQ(failure.what(), description);
-    }
+    EXPECT_EQ(failureOf(action), description);
 }
 
 struct RoundingRow {

@@ -4,6 +4,7 @@
 #include "support/recording_interaction.h"
 #include "support/temp_program_folder.h"
 
+#include "engine/pipe_friction.h"
 #include "site/startup.h"
 
 #include <gtest/gtest.h>
@@ -323,6 +324,76 @@ TEST(ApplySystemSettings, DoesNotTouchTheResultsOrTheSavedFlag) {
     EXPECT_EQ(app.results.Current.GpmPerNozzle, before);
     EXPECT_TRUE(app.flags.blnSaved);
     EXPECT_FALSE(app.config.Data);
+}
+
+TEST(LoadAllLists, WithBothFuelOptionsClearLeavesAllButThePumpListAlone) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    Started started;
+    start(folder, started);
+    ApplicationState& app = started.app;
+    const ComboList dispensersBefore = app.panel.cmbDispenser;
+    app.panel.cmbDispenser.SetListIndex(2);
+    app.panel.cmbPumps.SetListIndex(1);
+    TouchFrmData(app.panel, app.config);
+    app.panel.frmData.optGas = false;
+    app.panel.frmData.optDiesel = false;
+    LoadAllLists(app.panel, app.catalogues, app.config);
+    EXPECT_EQ(app.panel.cmbDispenser.Entries(), dispensersBefore.Entries());
+    EXPECT_EQ(app.panel.cmbDispenser.ListIndex(), 2);
+    EXPECT_EQ(app.panel.cmbPumps.ListIndex(), 0) << "the pump list is refilled";
+}
+
+TEST(Calculate, ChangingThePipingMaterialInAdvanceModeChangesNoResult) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    Started started;
+    start(folder, started);
+    ApplicationState& app = started.app;
+    app.panel.txtTrunkLength = "300";
+    app.panel.txtBranchLength = "80";
+    Calculate(app);
+    const std::vector<Single> firstMaterial = app.results.Current.GpmPerNozzle;
+    app.panel.cmbPiping.SetListIndex(2);
+    Calculate(app);
+    EXPECT_EQ(app.results.Current.GpmPerNozzle, firstMaterial);
+}
+
+TEST(Calculate, ChangingThePipeSizeInBasicModeChangesOnlyTheFittingLengths) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    Started started;
+    start(folder, started);
+    ApplicationState& app = started.app;
+    app.panel.optBasic = true;
+    app.panel.optAdvance = false;
+    app.panel.txtPipeLen = "400";
+    const SiteDescription smallest = BuildSiteDescription(app.panel, app.config);
+    app.panel.cmbPipeSize.SetListIndex(4);
+    const SiteDescription largest = BuildSiteDescription(app.panel, app.config);
+    HeadLossBreakdown small;
+    HeadLossBreakdown large;
+    SystemHead(HydraulicSite(smallest, app.piping, app.catalogues), 10, 4, small);
+    SystemHead(HydraulicSite(largest, app.piping, app.catalogues), 10, 4, large);
+    // The diameter stays that of the first size, and the longer fittings of
+    // the largest size add friction.
+    EXPECT_GT(large.TrunkLoss, small.TrunkLoss);
+    EXPECT_GT(large.BranchLoss, small.BranchLoss);
+    const Single smallestDiameterLoss =
+        PipeFriction(app.piping.PipeDiameter[0], 400 * 0.75F, 40, app.piping.PipeRoughness[1]);
+    EXPECT_GT(small.TrunkLoss, smallestDiameterLoss) << "fittings add to the pipe of the first size";
+}
+
+TEST(Calculate, ClearsTheSavedFlagAndMakesNoBaselineOnceItIsMade) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    Started started;
+    start(folder, started);
+    ApplicationState& app = started.app;
+    const std::vector<Single> baseline = app.results.Baseline.GpmPerNozzle;
+    app.panel.txtTrunkLength = "900";
+    Calculate(app);
+    EXPECT_FALSE(app.flags.blnSaved);
+    EXPECT_EQ(app.results.Baseline.GpmPerNozzle, baseline);
+    EXPECT_NE(app.results.Current.GpmPerNozzle, baseline);
+    MakeBaseline(app);
+    EXPECT_EQ(app.results.Baseline.GpmPerNozzle, app.results.Current.GpmPerNozzle);
 }
 
 } // namespace
