@@ -33,7 +33,7 @@ vesk::ApplicationState typicalSite() {
     panel.txtBranchFitting = {"0", "3", "1", "1"};
     panel.cmbHoseSize.SetListIndex(1);
     panel.txtHoseLen = "8";
-    vesk::ComputeChartNozzles(app);
+    vesk::CreateResultTables(app);
     return app;
 }
 

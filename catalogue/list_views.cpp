@@ -25,6 +25,14 @@ void ComboList::SetListIndex(Long index) {
     m_listIndex = index;
 }
 
+void ComboList::SetText(const std::string& text) {
+    const Long index = FindEntry(text);
+    if (index < 0) {
+        fail(failure::invalidProperty);
+    }
+    m_listIndex = index;
+}
+
 std::string ComboList::Text() const {
     return m_listIndex < 0 ? std::string{} : m_entries[m_listIndex];
 }

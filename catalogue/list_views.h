@@ -20,6 +20,10 @@ class ComboList {
     // fails with "Invalid property value".
     void SetListIndex(Long index);
 
+    // Selects the entry of exactly this text. A list that offers only its own
+    // entries takes no other text: that fails with "Invalid property value".
+    void SetText(const std::string& text);
+
     Long ListIndex() const { return m_listIndex; }
     Long ListCount() const { return static_cast<Long>(m_entries.size()); }
     // The text of the selected entry; empty when nothing is selected.

@@ -8,7 +8,10 @@
 #include "engine/flow_sweep.h"
 #include "site/configure_data.h"
 #include "site/panel_state.h"
+#include "site/result_grid.h"
 #include "site/settings_file.h"
+#include "site/site_properties.h"
+#include "site/site_snapshot.h"
 
 #include <filesystem>
 #include <string>
@@ -37,9 +40,17 @@ struct ResultTables {
     EngineScratch engine;
 };
 
+// The three copies of the panels; only the Baseline's is restored.
+struct Snapshots {
+    SiteSnapshot StartupSnapshot;
+    SiteSnapshot BaselineSnapshot;
+    SiteSnapshot SpareSnapshot;
+};
+
 struct ApplicationState {
     std::filesystem::path programFolder;
     std::string strSiteFile;
+    std::string caption; // the main window's caption: the path of the site file
 
     Catalogues catalogues;
     PipingTables piping;
@@ -48,6 +59,12 @@ struct ApplicationState {
 
     PanelState panel;
     WorkflowFlags flags;
+
+    ResultGrid flxCurrent;
+    ResultGrid flxBaseLine;
+    Snapshots snapshots;
+    clsSiteProperties siteProperties;
+    SitePropertiesForm frmSiteProperties;
 
     Integer NoOfNozzles = 0;
     Integer ChartNozzles = 0;

@@ -84,6 +84,23 @@ void FillPumpList(PanelState& panel, const Catalogues& catalogues, const ListOpt
     }
 }
 
+void ClickFrequencyOption(PanelState& panel, const Catalogues& catalogues, const clsConfigureData& config,
+                          bool fiftyHz) {
+    panel.opt50Hz = fiftyHz;
+    panel.opt60Hz = !fiftyHz;
+    const ListOptions options = ListOptionsOf(panel, config);
+    panel.cmbPumps.Clear();
+    AddListedRecords(panel.cmbPumps, catalogues.of(ComponentKind::Pump),
+                     fiftyHz ? LoaderFlag::Pump50Hz : LoaderFlag::Pump60Hz, options);
+    if (panel.cmbPumps.ListCount() > 0) {
+        panel.cmbPumps.SetListIndex(0);
+    }
+    if (panel.cmbPumps.ListIndex() == -1) {
+        panel.cmbPumps.AddItem("None");
+    }
+    panel.cmbPumps.SetListIndex(0);
+}
+
 void LoadAllLists(PanelState& panel, const Catalogues& catalogues, const clsConfigureData& config) {
     const ListOptions options = ListOptionsOf(panel, config);
     FillPumpList(panel, catalogues, options);

@@ -102,6 +102,12 @@ ListOptions ListOptionsOf(PanelState& panel, const clsConfigureData& config);
 // the 60 Hz loader when opt60Hz is on (no "None" entry).
 void FillPumpList(PanelState& panel, const Catalogues& catalogues, const ListOptions& options);
 
+// The click of opt50Hz or opt60Hz, which runs only when the option is on: the
+// pump list refilled through the 50 Hz or the 60 Hz view, its first entry
+// selected, and "None" added when the list stays empty.
+void ClickFrequencyOption(PanelState& panel, const Catalogues& catalogues, const clsConfigureData& config,
+                          bool fiftyHz);
+
 // LoadAllLists: refills the component lists of the main window: the pumps,
 // then, when optGas is on, the seven lists through their gas loaders, and when
 // optDiesel is on through their diesel loaders. The earlier selections are not

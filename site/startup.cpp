@@ -5,6 +5,7 @@
 
 #include "catalogue/component_file.h"
 #include "catalogue/piping_file.h"
+#include "site/snapshot_store.h"
 
 namespace vesk {
 
@@ -125,15 +126,15 @@ bool ApplySystemSettings(ApplicationState& app) {
     return replot;
 }
 
-void ComputeChartNozzles(ApplicationState& app) {
-    app.NoOfNozzles = parseInteger(app.panel.txtNoOfNozzle);
-    app.ChartNozzles = NextEvenNozzles(app.NoOfNozzles);
+void CreateResultTables(ApplicationState& app) {
+    app.ChartNozzles = NextEvenNozzles(parseInteger(app.panel.txtNoOfNozzle));
     CreateFlowTable(app.results.Current, app.ChartNozzles);
     CreateFlowTable(app.results.Baseline, app.ChartNozzles);
 }
 
 void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
-    app.strSiteFile = DefaultSiteFile(app.programFolder);
+    app.caption = DefaultSiteFile(app.programFolder);
+    app.strSiteFile = app.caption;
     app.flags.blnUSActive = true;
     app.flags.blnMetricActive = false;
     app.flags.CurrentInLitres = false;
@@ -144,6 +145,7 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     app.catalogues = Catalogues{};
     app.piping = PipingTables{};
     app.config = clsConfigureData{};
+    app.siteProperties = clsSiteProperties{};
 
     ReadIniFile(app.programFolder, ui, {app.config, app.panel.txtMaxNozz, app.panel.cmbNoOfBranches, app.iniRawLines});
 
@@ -175,7 +177,11 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     app.panel.cmbQuantity.SetListIndex(0);
     app.panel.cmbNoOfBranches.SetListIndex(0);
 
-    ComputeChartNozzles(app);
+    FormatGrid(app.flxCurrent);
+    FormatGrid(app.flxBaseLine);
+
+    app.NoOfNozzles = parseInteger(app.panel.txtNoOfNozzle);
+    CreateResultTables(app);
     noteChartNozzles(app);
 
     // A number of nozzles above the limit is cut to it; the numbers of the
@@ -183,6 +189,10 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     if (leadingNumber(app.panel.txtNoOfNozzle) > leadingNumber(app.panel.txtMaxNozz)) {
         app.panel.txtNoOfNozzle = app.panel.txtMaxNozz;
     }
+
+    FillGrid(app.flxCurrent, GridSide::Current, app.panel, app.config);
+    FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
+    FillStartupSnapshots(app);
 
     Calculate(app);
     app.flags.blnSaved = true;
@@ -197,6 +207,7 @@ void Calculate(ApplicationState& app) {
         MakeBaseline(app);
         app.flags.NeedBaseline = false;
     }
+    FillGrid(app.flxCurrent, GridSide::Current, app.panel, app.config);
     app.flags.blnSaved = false;
 }
 
@@ -206,8 +217,21 @@ void MakeBaseline(ApplicationState& app) {
     FillNozzleAxis(app.results.Baseline);
     noteChartNozzles(app);
     sweepInto(app, app.results.Baseline, SweepButton::BaseLine);
-    // The Baseline grid is filled by the window; it is no longer pending.
-    app.flags.BaselineGridPending = false;
+    if (!app.flags.NeedBaseline) { // always so here
+        StoreBaselineSnapshot(app);
+    }
+    if (!app.flags.NeedBaseline || app.flags.BaselineGridPending) {
+        FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
+        app.flags.BaselineGridPending = false;
+    }
+}
+
+void BackToBaseline(ApplicationState& app, UserInteraction& ui) {
+    // The three steps run with no check between them: under other settings
+    // the message shows, and a Baseline of the panels as they are is made.
+    RestoreBaselineSnapshot(app, ui);
+    FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
+    MakeBaseline(app);
 }
 
 } // namespace vesk

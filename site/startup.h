@@ -34,8 +34,13 @@ void Calculate(ApplicationState& app);
 // Make Baseline (BaseLine): the Baseline sweep.
 void MakeBaseline(ApplicationState& app);
 
-// The numbers of nozzles of the results: NoOfNozzles and ChartNozzles from the
-// text of txtNoOfNozzle, and both result tables created anew.
-void ComputeChartNozzles(ApplicationState& app);
+// ChartNozzles from the text of txtNoOfNozzle, the next even number above it,
+// and both result tables created anew and cleared. NoOfNozzles is not touched.
+void CreateResultTables(ApplicationState& app);
+
+// Back To Baseline: the panels restored from the Baseline snapshot (or the
+// message "System Settings has changed" and the panels left as they are),
+// then the Baseline grid filled and Make Baseline, whatever the restore did.
+void BackToBaseline(ApplicationState& app, UserInteraction& ui);
 
 } // namespace vesk

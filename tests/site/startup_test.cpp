@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // What start-up makes of a program folder: lists, fields, flags and the first results.
-#include "support/recording_interaction.h"
-#include "support/temp_program_folder.h"
+#include "started_app.h"
 
 #include "engine/pipe_friction.h"
 #include "site/startup.h"
@@ -12,33 +11,10 @@
 namespace vesk {
 namespace {
 
-using test::RecordingInteraction;
+using test::shippedWithSettings;
+using test::start;
+using test::Started;
 using test::TempProgramFolder;
-
-struct Started {
-    ApplicationState app;
-    RecordingInteraction ui;
-    bool ended = false;
-    std::string failure;
-};
-
-void start(const TempProgramFolder& folder, Started& started) {
-    started.app.programFolder = folder.path();
-    try {
-        InitialiseMainWindow(started.app, started.ui);
-    } catch (const ProcessEnd&) {
-        started.ended = true;
-    } catch (const RunTimeFailure& failure) {
-        started.failure = failure.what();
-    }
-}
-
-// A program folder of the shipped data with its settings file replaced.
-TempProgramFolder shippedWithSettings(std::initializer_list<std::string_view> iniLines) {
-    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-    folder.writeLines("Vesk.ini", iniLines);
-    return folder;
-}
 
 TEST(Startup, ShippedFolderStartsWithTheDesignersDefaults) {
     const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
