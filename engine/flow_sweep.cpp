@@ -28,7 +28,7 @@ Single stepUntilPumpFails(const HydraulicSite& hydraulics, Integer nozzles, Engi
     Single pumpHeadFt = 0;
     Single systemHeadFt = 0;
     do {
-        scratch.TrialFlow = toSingle(scratch.TrialFlow + trialFlowStepGpm);
+        scratch.TrialFlow = NextTrialFlow(scratch.TrialFlow);
         const Single totalGpm = toSingle(static_cast<Single>(nozzles) * Double{scratch.TrialFlow});
         systemHeadFt = SystemHead(hydraulics, scratch.TrialFlow, nozzles, scratch.Breakdown);
         pumpHeadFt = PumpHead(hydraulics.components.pump, totalGpm);
@@ -56,6 +56,14 @@ void roundResults(FlowTable& table, Integer swept) {
 }
 
 } // namespace
+
+Single NextTrialFlow(Single trialFlowGpm) {
+    const Single next = toSingle(trialFlowGpm + trialFlowStepGpm);
+    if (next == trialFlowGpm) {
+        fail(failure::overflow);
+    }
+    return next;
+}
 
 Integer NextEvenNozzles(Integer noOfNozzles) {
     const Long step = noOfNozzles % 2 == 0 ? 2 : 1;

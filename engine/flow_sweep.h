@@ -37,6 +37,11 @@ struct EngineScratch {
     HeadLossBreakdown Breakdown;
 };
 
+// The next trial flow: 0.1 GPM (the Double) added and the sum kept as a Single.
+// Where a Single can no longer hold another 0.1 the stepping would repeat the
+// same step forever; that ends with "Overflow".
+Single NextTrialFlow(Single trialFlowGpm);
+
 // The two buttons that sweep differ only in the table they fill and in this.
 enum class SweepButton { Calculate, BaseLine };
 

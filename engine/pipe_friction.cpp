@@ -3,6 +3,8 @@
 // Friction loss of a pipe: Darcy-Weisbach with the Colebrook friction factor.
 #include "engine/pipe_friction.h"
 
+#include "engine/cycle_guard.h"
+
 #include <cmath>
 
 namespace vesk {
@@ -20,20 +22,31 @@ constexpr Single colebrookStart = 0.001F;
 constexpr Single colebrookTolerance = 0.0001F;
 constexpr Double twiceGravityFtPerS2 = 64.34;
 
+// The natural logarithm, which the platform refuses for 0 and below.
+Double naturalLog(Double x) {
+    if (!(x > 0)) {
+        fail(failure::invalidCall);
+    }
+    return std::log(x);
+}
+
 // Darcy friction factor above the laminar limit: the Colebrook equation solved
 // by repeated substitution from 0.001. The first pass always runs, and there is
-// no limit on the number of passes.
+// no limit on the number of passes; a substitution that comes back to a value
+// it has had before would repeat forever, and ends with "Overflow".
 Single colebrookFactor(Single diameterFt, Single roughnessFt, Single reynolds) {
     Single previous = colebrookStart;
+    CycleGuard guard;
     for (;;) {
         const Double x = roughnessFt / (3.7 * diameterFt) + 2.51 / (reynolds * std::sqrt(Double{previous}));
         // The decimal logarithm as the natural one divided by ln(10), carried out so.
-        const Double l = -2 * std::log(x) / std::log(10.0);
+        const Double l = -2 * naturalLog(x) / std::log(10.0);
         const Single factor = toSingle(divide(1, l * l));
         const Single relativeChange = toSingle(std::fabs(divide(Double{factor} - previous, factor)));
         if (relativeChange <= colebrookTolerance) {
             return factor;
         }
+        guard.observe(factor);
         previous = factor;
     }
 }
