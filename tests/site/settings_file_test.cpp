@@ -147,5 +147,15 @@ TEST(WriteIniFile, WritesTheSettingsFileUnderItsExistingSpelling) {
     EXPECT_EQ(folder.read("VESK.INI"), "12\r\n3\r\nTrue\r\nTrue\r\nC\r\n");
 }
 
+TEST(WriteIniFile, AFailureWhileComposingLeavesTheOldFileIntact) {
+    TempProgramFolder folder;
+    folder.writeLines("Vesk.ini", {"40", "4", "True", "True", "A"});
+    const std::string before = folder.read("Vesk.ini");
+    clsConfigureData config;
+    config.ComponentList = 3; // no letter stands for it
+    EXPECT_THROW(WriteIniFile(folder.path(), IniRawLines{"40", "4"}, config), RunTimeFailure);
+    EXPECT_EQ(folder.read("Vesk.ini"), before);
+}
+
 } // namespace
 } // namespace vesk
