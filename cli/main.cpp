@@ -3,6 +3,7 @@
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
+#include "site/site_file.h"
 #include "site/startup.h"
 
 #include <charconv>
@@ -115,15 +116,16 @@ void printDetails(vesk::ApplicationState& app) {
 }
 
 int run(const Options& options) {
-    if (options.siteFile) {
-        std::cerr << "vesk-calc: site files are not yet supported\n";
-        return exitUsage;
-    }
     StderrInteraction ui;
     vesk::ApplicationState app;
     app.programFolder = options.programFolder;
     try {
         vesk::InitialiseMainWindow(app, ui);
+        // The site File, Open would load; a missing or damaged file has shown
+        // its message on stderr already.
+        if (options.siteFile && !vesk::OpenSiteFile(app, std::filesystem::absolute(*options.siteFile).string(), ui)) {
+            return exitFatalMessage;
+        }
         if (options.details) {
             printDetails(app);
         } else if (options.csv) {

@@ -6,6 +6,8 @@
 #include "catalogue/catalogues.h"
 #include "catalogue/piping_tables.h"
 #include "engine/flow_sweep.h"
+#include "site/flow_chart.h"
+#include "site/pump_curve.h"
 #include "site/configure_data.h"
 #include "site/panel_state.h"
 #include "site/result_grid.h"
@@ -27,8 +29,6 @@ struct WorkflowFlags {
     bool NeedBaseline = true;
     bool ChartNotDrawnYet = true;
     bool BaselineGridPending = false;
-    bool CurrentInLitres = false;
-    bool BaselineInLitres = false;
     bool blnQuietNozzleCheck = false;
 };
 
@@ -70,6 +70,8 @@ struct ApplicationState {
     Integer ChartNozzles = 0;
     Integer LastChartNozzles = 0;
     ResultTables results;
+    FlowChartState flowChart;
+    PumpCurveChart pumpCurve;
 };
 
 } // namespace vesk

@@ -87,9 +87,8 @@ void sweepInto(ApplicationState& app, FlowTable& table, SweepButton button) {
     Sweep(table, app.results.NozzleLabels, button, hydraulics, app.results.engine);
 }
 
-void noteChartNozzles(ApplicationState& app) {
-    // The chart's rows are rebuilt by the window when this value changes.
-    app.LastChartNozzles = app.ChartNozzles;
+void rebuildChartRows(ApplicationState& app, const FlowTable& ownTable) {
+    app.LastChartNozzles = RebuildChartRows(app.flowChart, app.LastChartNozzles, app.ChartNozzles, ownTable);
 }
 
 } // namespace
@@ -122,6 +121,9 @@ bool ApplySystemSettings(ApplicationState& app) {
         app.flags.blnUSActive = false;
     }
     const bool replot = !app.flags.ChartNotDrawnYet;
+    if (replot) {
+        ReplotForUnits(app.flowChart, app.results.Current, app.results.Baseline, app.ChartNozzles, app.config.Units);
+    }
     panel.frmDataLoaded = false;
     return replot;
 }
@@ -130,6 +132,7 @@ void CreateResultTables(ApplicationState& app) {
     app.ChartNozzles = NextEvenNozzles(parseInteger(app.panel.txtNoOfNozzle));
     CreateFlowTable(app.results.Current, app.ChartNozzles);
     CreateFlowTable(app.results.Baseline, app.ChartNozzles);
+    CreateChartMatrix(app.flowChart, app.ChartNozzles);
 }
 
 void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
@@ -137,8 +140,8 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     app.strSiteFile = app.caption;
     app.flags.blnUSActive = true;
     app.flags.blnMetricActive = false;
-    app.flags.CurrentInLitres = false;
-    app.flags.BaselineInLitres = false;
+    app.flowChart.CurrentInLitres = false;
+    app.flowChart.BaselineInLitres = false;
     app.flags.blnQuietNozzleCheck = false;
 
     // New, empty instances of the application's objects.
@@ -182,7 +185,7 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
 
     app.NoOfNozzles = parseInteger(app.panel.txtNoOfNozzle);
     CreateResultTables(app);
-    noteChartNozzles(app);
+    app.LastChartNozzles = app.ChartNozzles;
 
     // A number of nozzles above the limit is cut to it; the numbers of the
     // tables are not computed again here.
@@ -195,14 +198,18 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     FillStartupSnapshots(app);
 
     Calculate(app);
+    UpdatePumpCurve(app.pumpCurve, app.panel, app.config, app.catalogues);
     app.flags.blnSaved = true;
 }
 
 void Calculate(ApplicationState& app) {
     app.flags.ChartNotDrawnYet = false;
+    app.flowChart.lblCurrentPump = LegendLabel(ChartSide::Current, app.panel.cmbPumps.Text());
     FillNozzleAxis(app.results.Current);
-    noteChartNozzles(app);
+    rebuildChartRows(app, app.results.Current);
     sweepInto(app, app.results.Current, SweepButton::Calculate);
+    DrawSeries(app.flowChart, ChartSide::Current, app.results.Current, app.results.Baseline, app.ChartNozzles,
+               app.config.Units);
     if (app.flags.NeedBaseline) {
         MakeBaseline(app);
         app.flags.NeedBaseline = false;
@@ -213,10 +220,13 @@ void Calculate(ApplicationState& app) {
 
 void MakeBaseline(ApplicationState& app) {
     app.flags.NeedBaseline = false;
+    app.flowChart.lblBaselinePump = LegendLabel(ChartSide::Baseline, app.panel.cmbPumps.Text());
     app.flags.BaselineGridPending = true;
     FillNozzleAxis(app.results.Baseline);
-    noteChartNozzles(app);
+    rebuildChartRows(app, app.results.Baseline);
     sweepInto(app, app.results.Baseline, SweepButton::BaseLine);
+    DrawSeries(app.flowChart, ChartSide::Baseline, app.results.Baseline, app.results.Current, app.ChartNozzles,
+               app.config.Units);
     if (!app.flags.NeedBaseline) { // always so here
         StoreBaselineSnapshot(app);
     }

@@ -28,10 +28,12 @@ std::string readFile(const std::filesystem::path& file) {
     return text.str();
 }
 
-// Runs vesk-calc with the arguments, catching stdout and stderr apart.
-CalcRun runCalc(const std::string& arguments) {
+// Runs vesk-calc with the arguments, catching stdout and stderr apart; in
+// `workingFolder` when one is given.
+CalcRun runCalc(const std::string& arguments, const std::filesystem::path& workingFolder = {}) {
     const auto errFile = std::filesystem::temp_directory_path() / ("vesk-calc-err-" + std::to_string(::getpid()));
-    const std::string command = std::string("'") + VESK_CALC + "' " + arguments + " 2>'" + errFile.string() + "'";
+    const std::string changeFolder = workingFolder.empty() ? "" : "cd '" + workingFolder.string() + "' && ";
+    const std::string command = changeFolder + "'" + VESK_CALC + "' " + arguments + " 2>'" + errFile.string() + "'";
     CalcRun run;
     FILE* pipe = ::popen(command.c_str(), "r");
     if (pipe == nullptr) {
@@ -185,10 +187,82 @@ TEST(VeskCalc, BadUsageExits2WithAUsageLine) {
     }
 }
 
-TEST(VeskCalc, ASiteFileIsNotYetSupported) {
-    const CalcRun run = runCalc("some_site.txt");
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_NE(run.err.find("not yet supported"), std::string::npos);
+std::string shippedSite(const char* name) {
+    return "'" + (test::shippedDataDir() / "SaveSiteInfo" / name).string() + "'";
+}
+
+std::string shippedDir() {
+    return "--dir '" + test::shippedDataDir().string() + "'";
+}
+
+struct SiteGolden {
+    const char* site;
+    const char* golden;
+};
+
+class ExampleSiteCsv : public ::testing::TestWithParam<SiteGolden> {};
+
+TEST_P(ExampleSiteCsv, MatchesItsGoldenFile) {
+    const SiteGolden& example = GetParam();
+    const CalcRun run = runCalc("--csv " + shippedDir() + " " + shippedSite(example.site));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, golden(example.golden));
+}
+
+INSTANTIATE_TEST_SUITE_P(VeskCalc, ExampleSiteCsv,
+                         ::testing::Values(SiteGolden{"SmallGasStation.txt", "site_small_gas_station.csv"},
+                                           SiteGolden{"MetricStation.txt", "site_metric_station.csv"},
+                                           SiteGolden{"DieselTruckStop.txt", "site_diesel_truck_stop.csv"},
+                                           SiteGolden{"BasicModeSite.txt", "site_basic_mode.csv"}));
+
+TEST(VeskCalc, DetailsOfASiteFileMatchTheirGoldenFile) {
+    const CalcRun run = runCalc("--details " + shippedDir() + " " + shippedSite("DieselTruckStop.txt"));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("site_diesel_truck_stop_details.csv"));
+}
+
+TEST(VeskCalc, TheTableOfASiteFileNamesItsFullPath) {
+    // A relative name is made absolute, as the open dialog gives full paths.
+    const CalcRun run =
+        runCalc(shippedDir() + " " + shippedSite("SmallGasStation.txt"), test::shippedDataDir() / "SaveSiteInfo");
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    const std::string fullPath = (test::shippedDataDir() / "SaveSiteInfo" / "SmallGasStation.txt").string();
+    EXPECT_EQ(run.out.rfind("Site: " + fullPath + "\n", 0), 0U) << run.out;
+    const CalcRun relative = runCalc(shippedDir() + " SmallGasStation.txt", test::shippedDataDir() / "SaveSiteInfo");
+    EXPECT_EQ(relative.exitCode, 0) << relative.err;
+    EXPECT_EQ(relative.out, run.out);
+}
+
+TEST(VeskCalc, ADamagedSiteFilePrintsErrorInFileLoadAndExits1) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    std::string text = folder.read("SaveSiteInfo/SmallGasStation.txt");
+    text.erase(text.rfind("(555)")); // the 52nd line is missing
+    folder.write("SaveSiteInfo/short.txt", text);
+    const CalcRun run =
+        runCalc("--csv " + dirOf(folder) + " '" + (folder.path() / "SaveSiteInfo/short.txt").string() + "'");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "Error in File Load\n");
+    EXPECT_EQ(run.out, "");
+}
+
+TEST(VeskCalc, ASiteNamingAnUnknownComponentPrintsErrorInFileLoadAndExits1) {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    std::string text = folder.read("SaveSiteInfo/DieselTruckStop.txt");
+    text.replace(text.find("STP 5 HP high-flow"), 18, "STP 9 HP");
+    folder.write("SaveSiteInfo/unknown.txt", text);
+    const CalcRun run = runCalc(dirOf(folder) + " '" + (folder.path() / "SaveSiteInfo/unknown.txt").string() + "'");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "Error in File Load\n");
+    EXPECT_EQ(run.out, "");
+}
+
+TEST(VeskCalc, AMissingSiteFilePrintsFileDoesntExistsAndExits1) {
+    const CalcRun run =
+        runCalc(shippedDir() + " '" + (test::shippedDataDir() / "SaveSiteInfo" / "Nowhere.txt").string() + "'");
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "File doesn't exists\n");
+    EXPECT_EQ(run.out, "");
 }
 
 } // namespace
