@@ -10,14 +10,20 @@
 
 namespace vesk {
 
+enum class Answer { Yes, No, Cancel };
+
 // Every modal box of the system goes through this interface: the desktop
 // program shows real boxes, the command-line calculator writes to stderr, and
-// tests record what was shown.
+// tests record what was shown and script the answers.
 class UserInteraction {
   public:
     virtual ~UserInteraction() = default;
     // A box with the text and an Ok button, under the window's default title.
     virtual void showMessageBox(std::string_view text, MessageIcon icon) = 0;
+    // A question with Yes, No and Cancel. Where nobody can answer, Cancel.
+    virtual Answer askYesNoCancel(std::string_view /*text*/) { return Answer::Cancel; }
+    // A question with Yes and No. Where nobody can answer, No.
+    virtual Answer askYesNo(std::string_view /*text*/) { return Answer::No; }
 };
 
 // Shows a numbered message; a code outside the catalogue shows nothing.

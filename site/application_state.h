@@ -30,6 +30,7 @@ struct WorkflowFlags {
     bool ChartNotDrawnYet = true;
     bool BaselineGridPending = false;
     bool blnQuietNozzleCheck = false;
+    bool blnFieldValid = false; // the last length check passed
 };
 
 // The results of the two sweeps and what the engine leaves behind.

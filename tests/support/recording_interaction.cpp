@@ -10,4 +10,27 @@ void RecordingInteraction::showMessageBox(std::string_view text, MessageIcon ico
     icons.push_back(icon);
 }
 
+namespace {
+Answer nextAnswer(std::vector<Answer>& answers, Answer whenNone) {
+    if (answers.empty()) {
+        return whenNone;
+    }
+    const Answer answer = answers.front();
+    answers.erase(answers.begin());
+    return answer;
+}
+} // namespace
+
+Answer RecordingInteraction::askYesNoCancel(std::string_view text) {
+    shown.emplace_back(text);
+    icons.push_back(MessageIcon::None);
+    return nextAnswer(answers, Answer::Cancel);
+}
+
+Answer RecordingInteraction::askYesNo(std::string_view text) {
+    shown.emplace_back(text);
+    icons.push_back(MessageIcon::None);
+    return nextAnswer(answers, Answer::No);
+}
+
 } // namespace vesk::test

@@ -13,9 +13,14 @@ namespace vesk::test {
 class RecordingInteraction : public UserInteraction {
   public:
     void showMessageBox(std::string_view text, MessageIcon icon) override;
+    // Questions are recorded among the texts shown, and answered from the
+    // script in order; with the script used up, Cancel (or No).
+    Answer askYesNoCancel(std::string_view text) override;
+    Answer askYesNo(std::string_view text) override;
 
     std::vector<std::string> shown;
     std::vector<MessageIcon> icons;
+    std::vector<Answer> answers;
 };
 
 } // namespace vesk::test
