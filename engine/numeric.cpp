@@ -3,6 +3,7 @@
 // The numeric types and helpers that every rule of the system computes with.
 #include "engine/numeric.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -81,6 +82,43 @@ std::size_t numberPrefixLength(std::string_view text) {
     return i;
 }
 
+// The value of the exponent digits of a number text, with its sign. Held at
+// a million either way: only its sign and size matter beyond a Double's range.
+long exponentValue(std::string_view exponent) {
+    bool negative = false;
+    if (!exponent.empty() && (exponent.front() == '+' || exponent.front() == '-')) {
+        negative = exponent.front() == '-';
+        exponent.remove_prefix(1);
+    }
+    constexpr long limit = 1'000'000;
+    long value = 0;
+    for (char c : exponent) {
+        value = std::min(limit, value * 10 + (c - '0'));
+    }
+    return negative ? -value : value;
+}
+
+// Whether a number that a Double cannot hold is too large rather than too
+// small. Its value is 0.d * 10^m with d its first digit that is not zero; m
+// comes from where that digit stands against the point, plus the exponent.
+// Out of range, m is far from 0, so its sign decides: "1e-400" and
+// "0.000...001" are too small, "1e400" and "1000...000e-10" too large.
+bool isTooLargeToHold(std::string_view number) {
+    const std::size_t exponent = number.find_first_of("eE");
+    const std::string_view mantissa = number.substr(0, exponent);
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos) {
+        return false; // zero
+    }
+    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto digit = static_cast<long>(first);
+    long magnitude = digit < point ? point - digit : point - digit + 1;
+    if (exponent != std::string_view::npos) {
+        magnitude += exponentValue(number.substr(exponent + 1));
+    }
+    return magnitude > 0;
+}
+
 // Converts a text that is exactly one number of the form above.
 Double convertNumber(std::string_view number) {
     if (!number.empty() && number.front() == '+') {
@@ -90,11 +128,10 @@ Double convertNumber(std::string_view number) {
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error == std::errc::result_out_of_range) {
         // Too large overflows; too small is 0, as the platform reads it.
-        const auto exponent = number.find_first_of("eE");
-        if (exponent != std::string_view::npos && number.find('-', exponent) != std::string_view::npos) {
-            return 0;
+        if (isTooLargeToHold(number)) {
+            fail(failure::overflow);
         }
-        fail(failure::overflow);
+        return 0;
     }
     if (error != std::errc{} || end != number.data() + number.size()) {
         fail(failure::typeMismatch);

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <string>
 
 namespace vesk {
 namespace {
@@ -125,6 +126,26 @@ TEST(StrictConversion, ANumberTooLargeForTheTypeOverflows) {
     expectFailure(failure::overflow, [] { parseInteger("40000"); });
     EXPECT_EQ(parseInteger("1.5"), 2);
     EXPECT_EQ(parseInteger("2.5"), 2);
+}
+
+TEST(StrictConversion, ANumberTooSmallForADoubleIsZeroWithOrWithoutExponent) {
+    const std::string tinyWithoutExponent = "0." + std::string(400, '0') + "1";
+    EXPECT_EQ(parseNumber(tinyWithoutExponent), 0);
+    EXPECT_EQ(parseNumber("-" + tinyWithoutExponent), 0);
+    EXPECT_EQ(parseNumber("1e-400"), 0);
+    EXPECT_EQ(parseNumber("0.001e-400"), 0);
+    EXPECT_EQ(parseSingle(tinyWithoutExponent), 0);
+    EXPECT_EQ(leadingNumber(tinyWithoutExponent + "x"), 0);
+}
+
+TEST(StrictConversion, ANumberTooLargeForADoubleOverflowsEvenWithANegativeExponent) {
+    const std::string hugeDigits = "1" + std::string(400, '0');
+    expectFailure(failure::overflow, [&] { parseNumber(hugeDigits + "e-10"); });
+    expectFailure(failure::overflow, [&] { parseNumber("-" + hugeDigits + ".5E-60"); });
+    expectFailure(failure::overflow, [&] { parseNumber("0.0001e400"); });
+    expectFailure(failure::overflow, [&] { leadingNumber(hugeDigits + "e-10abc"); });
+    // Digits in front that the exponent brings back into range are a number.
+    EXPECT_EQ(parseNumber(hugeDigits + "e-400"), 1);
 }
 
 TEST(LenientConversion, ReadsTheNumberAtTheFront) {
