@@ -54,7 +54,7 @@ Long ComboList::FindEntry(const std::string& text) const {
 }
 
 std::string ActiveListCode(const ListOptions& options) {
-    std::string code;
+    const char* code = "";
     if (options.optAmerican) {
         code = "A";
     }

@@ -170,9 +170,7 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
 
     fillAndSelectLists(app);
 
-    // Assigned from a string, not a literal: GCC 12 misreads the literal's
-    // assignment here as an overlapping copy (-Wrestrict) at -O2.
-    app.panel.txtHoseLen = std::string("0");
+    app.panel.txtHoseLen = "0";
     app.panel.cmbQuantity.Clear();
     for (const char* quantity : {"1", "2", "3", "4"}) {
         app.panel.cmbQuantity.AddItem(quantity);
