@@ -5,12 +5,22 @@
 
 #include "messages/message_catalogue.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace vesk {
 
 enum class Answer { Yes, No, Cancel };
+
+// A file open or save dialog as the system asks for one.
+struct FileDialogRequest {
+    bool save = false;       // a save dialog, else an open dialog
+    std::string title;       // "Open", "New", "Save As"
+    std::string startFolder; // the program folder's SaveSiteInfo
+    std::string filter;      // "Vesk Files(*.txt)|*.txt"
+    std::string fileName;    // the name the dialog starts with
+};
 
 // Every modal box of the system goes through this interface: the desktop
 // program shows real boxes, the command-line calculator writes to stderr, and
@@ -24,6 +34,9 @@ class UserInteraction {
     virtual Answer askYesNoCancel(std::string_view /*text*/) { return Answer::Cancel; }
     // A question with Yes and No. Where nobody can answer, No.
     virtual Answer askYesNo(std::string_view /*text*/) { return Answer::No; }
+    // A file dialog: the full path chosen, or nothing for Cancel. Where nobody
+    // can answer, Cancel.
+    virtual std::optional<std::string> chooseFile(const FileDialogRequest& /*request*/) { return std::nullopt; }
 };
 
 // Shows a numbered message; a code outside the catalogue shows nothing.

@@ -33,4 +33,14 @@ Answer RecordingInteraction::askYesNo(std::string_view text) {
     return nextAnswer(answers, Answer::No);
 }
 
+std::optional<std::string> RecordingInteraction::chooseFile(const FileDialogRequest& request) {
+    fileDialogs.push_back(request);
+    if (chosenFiles.empty()) {
+        return std::nullopt;
+    }
+    std::optional<std::string> chosen = chosenFiles.front();
+    chosenFiles.erase(chosenFiles.begin());
+    return chosen;
+}
+
 } // namespace vesk::test

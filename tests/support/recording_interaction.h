@@ -17,10 +17,15 @@ class RecordingInteraction : public UserInteraction {
     // script in order; with the script used up, Cancel (or No).
     Answer askYesNoCancel(std::string_view text) override;
     Answer askYesNo(std::string_view text) override;
+    // File dialogs are recorded, and answered from their own script in order
+    // (nullopt is Cancel); with the script used up, Cancel.
+    std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
 
     std::vector<std::string> shown;
     std::vector<MessageIcon> icons;
     std::vector<Answer> answers;
+    std::vector<FileDialogRequest> fileDialogs;
+    std::vector<std::optional<std::string>> chosenFiles;
 };
 
 } // namespace vesk::test
