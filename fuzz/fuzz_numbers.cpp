@@ -141,7 +141,9 @@ void checkSingle(std::string_view text) {
     }
 }
 
-// The same for a Double and its text of 15 significant digits.
+// The same for a Double and its text of 15 significant digits. The few
+// Doubles just below the largest one are written rounded up, above it, and
+// that text overflows when it is read, as the platform's own texts of them do.
 void checkDouble(std::string_view text) {
     const Outcome<Double> number = outcomeOf([&] { return parseNumber(text); });
     if (!number.value) {
@@ -151,6 +153,11 @@ void checkDouble(std::string_view text) {
     checkNumberText(written, 15);
     const Outcome<Double> back = outcomeOf([&] { return parseNumber(written); });
     if (!back.value) {
+        errno = 0;
+        const bool writtenAboveTheLargest = std::isinf(std::strtod(written.c_str(), nullptr)) && errno == ERANGE;
+        if (writtenAboveTheLargest && back.failure == failure::overflow) {
+            return;
+        }
         fuzz::contractBroken("the text " + written + " of a Double does not read back");
     }
     const bool exact = significantDigits(text) <= 15 && std::fabs(*number.value) != DBL_MAX;

@@ -188,5 +188,14 @@ TEST(Redim, KeepsOrClearsAndNeverCutsBelowIndexZero) {
     expectFailure(failure::subscript, [&] { redim(values, -1); });
 }
 
+TEST(DoubleText, TheLargestDoublesAreWrittenAboveTheRangeAndDoNotReadBack) {
+    // Fifteen digits round the largest Double up, past what a Double holds:
+    // its text overflows when read, as the platform's own text of it does.
+    const Double largest = std::numeric_limits<Double>::max();
+    EXPECT_EQ(doubleText(largest), "1.79769313486232E+308");
+    EXPECT_EQ(failureOf([&] { parseNumber(doubleText(largest)); }), "Overflow");
+    EXPECT_EQ(parseNumber(doubleText(1.7976931348623e308)), 1.7976931348623e308);
+}
+
 } // namespace
 } // namespace vesk
