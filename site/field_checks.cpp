@@ -3,7 +3,6 @@
 // What the fields of the four areas accept, and how a bad entry is turned away.
 #include "site/field_checks.h"
 
-#include "site/site_file.h"
 #include "site/startup.h"
 
 namespace vesk {
@@ -127,24 +126,6 @@ void OpenTopMenu(ApplicationState& app, UserInteraction& ui) {
     if (ValidateAllFields(app, ui)) {
         app.flags.blnQuietNozzleCheck = false;
     }
-}
-
-bool ExitProgram(ApplicationState& app, UserInteraction& ui) {
-    if (!app.flags.blnSaved && !app.strSiteFile.empty()) {
-        const Answer answer = ui.askYesNoCancel(unsavedQuestion);
-        if (answer == Answer::Cancel) {
-            return false;
-        }
-        if (answer == Answer::Yes) {
-            WriteSiteFile(app, app.strSiteFile);
-        }
-    }
-    CloseMainWindow(app);
-    return true;
-}
-
-void CloseMainWindow(ApplicationState& app) {
-    WriteIniFile(app.programFolder, app.iniRawLines, app.config);
 }
 
 } // namespace vesk

@@ -59,15 +59,4 @@ bool ValidateAllFields(ApplicationState& app, UserInteraction& ui);
 // whatever the result.
 void OpenTopMenu(ApplicationState& app, UserInteraction& ui);
 
-inline constexpr const char* unsavedQuestion = "Current Values are not saved. Do you want to save now?";
-
-// File, Exit up to the end of the process: when a Calculate has run since the
-// last save and there is a site file, the question; Cancel keeps the program
-// going (false); Yes saves to the site file. Then the settings file is
-// written. Returns whether the process ends.
-bool ExitProgram(ApplicationState& app, UserInteraction& ui);
-
-// The close box: the settings file is written, nothing is asked.
-void CloseMainWindow(ApplicationState& app);
-
 } // namespace vesk

@@ -6,6 +6,7 @@
 #include "chart_adapter.h"
 #include "dialogs.h"
 #include "field_filters.h"
+#include "site_properties_dialog.h"
 #include "text_codec.h"
 
 #include "site/field_checks.h"
@@ -341,7 +342,18 @@ void MainWindow::buildMenus() {
                               {"mnuUpdate", "Update"}});
     QMenu* help = addMenu("mnuHelp", "&Help", {{"mnuF1", "Help F1"}, {"mnuAbout", "About Vesk"}});
 
-    connect(file->findChild<QAction*>(QStringLiteral("mnuExit")), &QAction::triggered, this, &MainWindow::exitProgram);
+    const auto fileAction = [file](const char* name) { return file->findChild<QAction*>(QString::fromLatin1(name)); };
+    connect(fileAction("mnuNew"), &QAction::triggered, this,
+            [this] { fileCommand([this] { return FileNew(m_app, m_ui); }); });
+    connect(fileAction("mnuOpen"), &QAction::triggered, this,
+            [this] { fileCommand([this] { return FileOpen(m_app, m_ui); }); });
+    connect(fileAction("mnuSave"), &QAction::triggered, this,
+            [this] { fileCommand([this] { return FileSave(m_app); }); });
+    connect(fileAction("mnuSaveAs"), &QAction::triggered, this,
+            [this] { fileCommand([this] { return FileSaveAs(m_app, m_ui); }); });
+    connect(fileAction("mnuExit"), &QAction::triggered, this, &MainWindow::exitProgram);
+    connect(options->findChild<QAction*>(QStringLiteral("mnuSiteProperties")), &QAction::triggered, this,
+            &MainWindow::siteProperties);
     connect(options->findChild<QAction*>(QStringLiteral("mnuSystemSettings")), &QAction::triggered, this,
             &MainWindow::systemSettings);
     connect(help->findChild<QAction*>(QStringLiteral("mnuAbout")), &QAction::triggered, this,
@@ -1111,6 +1123,48 @@ void MainWindow::systemSettings() {
     // Ok converts the fields and re-plots the graph; Cancel changes nothing.
     if (runEvent([this] { ShowSystemSettings(this, m_app); })) {
         refreshAll();
+    }
+}
+
+void MainWindow::siteProperties() {
+    // The texts go to clsSiteProperties only; nothing on the window shows them.
+    runEvent([this] { ShowSiteProperties(this, m_app, m_ui); });
+}
+
+void MainWindow::fileCommand(const std::function<FileCommandEnd()>& command) {
+    FileCommandEnd end = FileCommandEnd::Nothing;
+    if (!runEvent([&] { end = command(); })) {
+        return;
+    }
+    switch (end) {
+    case FileCommandEnd::Nothing:
+        return;
+    case FileCommandEnd::CaptionChanged:
+        refreshCaption();
+        return;
+    case FileCommandEnd::ReadFailed:
+        // The read stopped before the number of branches, so the picture stays.
+        refreshAll();
+        return;
+    case FileCommandEnd::Opened:
+        refreshAll();
+        if (runEvent([this] { loadSitePicture(); })) {
+            menuBar()->findChild<QMenu*>(QStringLiteral("mnuOptions"))->menuAction()->setEnabled(true);
+            for (const char* name : {"mnuSave", "mnuSaveAs"}) {
+                menuBar()->findChild<QAction*>(QString::fromLatin1(name))->setEnabled(true);
+            }
+            findChild<QLineEdit*>(QStringLiteral("txtNoOfNozzle"))->setFocus(Qt::OtherFocusReason);
+        }
+        return;
+    case FileCommandEnd::StartedAgain:
+        // The panels as the initialisation leaves them: the Dispensing Area,
+        // the recommendation lists disabled, the picture of the branches.
+        showArea(dispensingTab);
+        m_lstDispensing->setEnabled(false);
+        m_lstPump->setEnabled(false);
+        refreshAll();
+        runEvent([this] { loadSitePicture(); });
+        return;
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "messages/user_interaction.h"
 #include "site/application_state.h"
+#include "site/file_commands.h"
 
 #include <QMainWindow>
 #include <functional>
@@ -122,6 +123,9 @@ class MainWindow : public QMainWindow {
     void openTopMenu();
     void exitProgram();
     void systemSettings();
+    void siteProperties();
+    // Runs a command of the File menu, then shows what it changed.
+    void fileCommand(const std::function<FileCommandEnd()>& command);
 
     ApplicationState& m_app;
     UserInteraction& m_ui;

@@ -5,7 +5,10 @@
 
 #include "workbench/text_codec.h"
 
+#include <QFile>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QStringList>
 
 namespace vesk::gui {
 
@@ -24,6 +27,18 @@ QMessageBox::StandardButton ask(QWidget* parent, std::string_view text, QMessage
 }
 
 } // namespace
+
+QString QtFileFilter(std::string_view filter) {
+    const QStringList parts = fromWindows1252(filter).split(QLatin1Char('|'));
+    QStringList entries;
+    for (qsizetype index = 0; index + 1 < parts.size(); index += 2) {
+        const QString& description = parts.at(index);
+        const QString pattern = parts.at(index + 1);
+        const QString bracketed = QLatin1Char('(') + pattern + QLatin1Char(')');
+        entries.append(description.endsWith(bracketed) ? description : description + QLatin1Char(' ') + bracketed);
+    }
+    return entries.join(QStringLiteral(";;"));
+}
 
 QtUserInteraction::QtUserInteraction(QWidget* parent) : m_parent(parent) {}
 
@@ -46,6 +61,26 @@ Answer QtUserInteraction::askYesNoCancel(std::string_view text) {
 Answer QtUserInteraction::askYesNo(std::string_view text) {
     const auto button = ask(m_parent, text, QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+std::optional<std::string> QtUserInteraction::chooseFile(const FileDialogRequest& request) {
+    // Paths travel as the file system's own bytes.
+    QFileDialog dialog(m_parent, fromWindows1252(request.title), QFile::decodeName(request.startFolder.c_str()),
+                       QtFileFilter(request.filter));
+    dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (!request.fileName.empty()) {
+        dialog.selectFile(QFile::decodeName(request.fileName.c_str()));
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt; // Cancel, Escape or the close box
+    }
+    const QStringList chosen = dialog.selectedFiles();
+    if (chosen.isEmpty()) {
+        return std::string();
+    }
+    return QFile::encodeName(chosen.front()).toStdString();
 }
 
 } // namespace vesk::gui

@@ -4,6 +4,7 @@
 #include "started_app.h"
 
 #include "site/field_checks.h"
+#include "site/file_commands.h"
 
 #include <gtest/gtest.h>
 
