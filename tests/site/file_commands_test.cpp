@@ -19,8 +19,10 @@
 namespace vesk {
 namespace {
 
+using test::changed;
 using test::chooseSettings;
 using test::failureOf;
+using test::gridText;
 using test::join;
 using test::panelState;
 using test::start;
@@ -50,16 +52,6 @@ std::map<std::string, std::string> siteFolder(const TempProgramFolder& folder) {
     return files;
 }
 
-std::string gridText(const ResultGrid& grid) {
-    std::string text;
-    for (long row = 0; row < gridRowCount; ++row) {
-        for (long column = 0; column < gridColumnCount; ++column) {
-            text += grid.TextMatrix(row, column) + "|";
-        }
-    }
-    return text;
-}
-
 // Everything a command could change, for the checks of "nothing else".
 std::map<std::string, std::string> everything(const ApplicationState& app) {
     std::map<std::string, std::string> state = panelState(app.panel);
@@ -79,17 +71,6 @@ std::map<std::string, std::string> everything(const ApplicationState& app) {
     }
     state["Current"] = flows;
     return state;
-}
-
-std::vector<std::string> changed(const std::map<std::string, std::string>& before,
-                                 const std::map<std::string, std::string>& after) {
-    std::vector<std::string> names;
-    for (const auto& [name, value] : before) {
-        if (after.at(name) != value) {
-            names.push_back(name);
-        }
-    }
-    return names;
 }
 
 // A shipped program folder started; the site files of its SaveSiteInfo at hand.

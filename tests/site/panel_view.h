@@ -4,6 +4,7 @@
 #pragma once
 
 #include "site/panel_state.h"
+#include "site/result_grid.h"
 
 #include <map>
 #include <string>
@@ -77,6 +78,30 @@ inline std::map<std::string, std::string> panelState(const PanelState& panel) {
                              std::to_string(d.optInternational), std::to_string(d.optCommercial),
                              std::to_string(d.optUS), std::to_string(d.optMetric)});
     return state;
+}
+
+// The texts of a grid, row by row.
+inline std::string gridText(const ResultGrid& grid) {
+    std::string text;
+    for (long row = 0; row < gridRowCount; ++row) {
+        for (long column = 0; column < gridColumnCount; ++column) {
+            text += grid.TextMatrix(row, column) + "|";
+        }
+        text += "\n";
+    }
+    return text;
+}
+
+// The names of the entries that differ between two states.
+inline std::vector<std::string> changed(const std::map<std::string, std::string>& before,
+                                        const std::map<std::string, std::string>& after) {
+    std::vector<std::string> names;
+    for (const auto& [name, value] : before) {
+        if (after.at(name) != value) {
+            names.push_back(name);
+        }
+    }
+    return names;
 }
 
 } // namespace vesk::test

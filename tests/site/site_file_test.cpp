@@ -17,6 +17,8 @@
 namespace vesk {
 namespace {
 
+using test::changed;
+using test::gridText;
 using test::join;
 using test::panelState;
 
@@ -73,17 +75,6 @@ void started(const TempProgramFolder& folder, Started& app) {
     ASSERT_EQ(app.failure, "");
 }
 
-std::string gridText(const ResultGrid& grid) {
-    std::string text;
-    for (long row = 0; row < gridRowCount; ++row) {
-        for (long column = 0; column < gridColumnCount; ++column) {
-            text += grid.TextMatrix(row, column) + "|";
-        }
-        text += "\n";
-    }
-    return text;
-}
-
 // Everything a read or an open could change, for the checks of "nothing else".
 std::map<std::string, std::string> everything(const ApplicationState& app) {
     std::map<std::string, std::string> state = panelState(app.panel);
@@ -109,18 +100,6 @@ std::map<std::string, std::string> everything(const ApplicationState& app) {
     }
     state["Current"] = flows;
     return state;
-}
-
-// The names of the entries that differ between two states.
-std::vector<std::string> changed(const std::map<std::string, std::string>& before,
-                                 const std::map<std::string, std::string>& after) {
-    std::vector<std::string> names;
-    for (const auto& [name, value] : before) {
-        if (after.at(name) != value) {
-            names.push_back(name);
-        }
-    }
-    return names;
 }
 
 // A shipped program folder started, with a site file written beside it.
