@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The desktop program: the splash, then the main window over the state that start-up builds.
-#include "workbench/main_window.h"
-#include "workbench/qt_user_interaction.h"
-#include "workbench/splash_window.h"
+#include "gui/workbench/main_window.h"
+#include "gui/common/qt_user_interaction.h"
+#include "gui/workbench/splash_window.h"
 
-#include "site/application_state.h"
-#include "site/startup.h"
+#include "workbench/application_state.h"
+#include "workbench/startup.h"
 
 #include <QApplication>
 #include <filesystem>

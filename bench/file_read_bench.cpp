@@ -5,7 +5,7 @@
 
 #include "catalogue/component_file.h"
 #include "catalogue/piping_file.h"
-#include "site/startup.h"
+#include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,7 +5,7 @@
 
 #include "engine/flow_sweep.h"
 #include "engine/pipe_friction.h"
-#include "site/startup.h"
+#include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>
 #include <cmath>

@@ -3,7 +3,7 @@
 // A catalogue converted between US units and metric units for the editors.
 #pragma once
 
-#include "catalogue/catalogues.h"
+#include "engine/catalogues.h"
 
 namespace vesk {
 

@@ -3,8 +3,8 @@
 // The eight component data files: their reader, their writer and RemoveBlankLine.
 #pragma once
 
-#include "catalogue/component_kind.h"
-#include "catalogue/component_record.h"
+#include "catalogue/component_files.h"
+#include "engine/component_record.h"
 #include "catalogue/text_lines.h"
 #include "messages/user_interaction.h"
 

@@ -3,7 +3,7 @@
 // How an open component editor stores its fields and table into a record.
 #pragma once
 
-#include "catalogue/component_record.h"
+#include "engine/component_record.h"
 
 #include <array>
 #include <optional>

@@ -3,7 +3,7 @@
 // What a user can pick: the records of the active list and fuel (or frequency).
 #pragma once
 
-#include "catalogue/component_record.h"
+#include "engine/component_record.h"
 
 #include <string>
 #include <vector>

@@ -3,7 +3,7 @@
 // The piping data file: materials, sizes, valves and fittings of the buried pipe.
 #pragma once
 
-#include "catalogue/piping_tables.h"
+#include "engine/piping_tables.h"
 #include "messages/user_interaction.h"
 
 #include <filesystem>

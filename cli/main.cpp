@@ -3,8 +3,8 @@
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
-#include "site/site_file.h"
-#include "site/startup.h"
+#include "workbench/site_file.h"
+#include "workbench/startup.h"
 
 #include <charconv>
 #include <cstdio>

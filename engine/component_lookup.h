@@ -4,7 +4,7 @@
 // rate-loss curves.
 #pragma once
 
-#include "catalogue/catalogues.h"
+#include "engine/catalogues.h"
 #include "engine/site_description.h"
 
 #include <vector>

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/numeric.h"
+#include "engine/units.h"
 
 #include <array>
 #include <string>
@@ -66,14 +67,5 @@ struct SiteDescription {
     char Market = 'A'; // 'A' American, 'I' International, 'C' Commercial
     bool IsMetric = false;
 };
-
-// The program's own conversion constants; none is to be replaced by a more
-// exact value.
-namespace units {
-inline constexpr Double metresPerFoot = 0.3048;
-inline constexpr Double centimetresPerInch = 2.54;
-inline constexpr Single inchesPerFoot = 12;
-inline constexpr Double lpmPerGpm = 3.78564; // the program's own factor, not 3.785411784
-} // namespace units
 
 } // namespace vesk

@@ -3,7 +3,7 @@
 // The total dynamic head that the pump set must deliver.
 #pragma once
 
-#include "catalogue/piping_tables.h"
+#include "engine/piping_tables.h"
 #include "engine/component_lookup.h"
 #include "engine/site_description.h"
 

@@ -4,8 +4,8 @@
 // application started on a copy of the shipped program folder.
 #include "fuzz_contract.h"
 
-#include "site/site_file.h"
-#include "site/startup.h"
+#include "workbench/site_file.h"
+#include "workbench/startup.h"
 
 #include <array>
 #include <string>

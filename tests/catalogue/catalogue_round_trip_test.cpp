@@ -6,7 +6,7 @@
 
 #include "catalogue/catalogue_units.h"
 #include "catalogue/component_file.h"
-#include "catalogue/component_kind.h"
+#include "catalogue/component_files.h"
 #include "engine/numeric.h"
 
 #include <cstdint>

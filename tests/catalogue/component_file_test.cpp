@@ -6,7 +6,7 @@
 #include "support/temp_program_folder.h"
 
 #include "catalogue/component_file.h"
-#include "catalogue/component_kind.h"
+#include "catalogue/component_files.h"
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
 

@@ -5,8 +5,8 @@
 
 #include "support/failure_of.h"
 
-#include "catalogue/catalogues.h"
-#include "catalogue/piping_tables.h"
+#include "engine/catalogues.h"
+#include "engine/piping_tables.h"
 #include "engine/site_description.h"
 
 #include <bit>

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// The one place where the system's line charts meet Qt Charts: gaps and marker shapes.
+#pragma once
+
+#include "workbench/flow_chart.h"
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <array>
+#include <optional>
+#include <vector>
+
+class QCategoryAxis;
+class QChart;
+class QLineSeries;
+class QScatterSeries;
+class QValueAxis;
+
+namespace vesk::gui {
+
+// One column of a line chart as the system gives it: a value per row, none
+// where the row has no point, and the look of its series.
+struct ChartColumn {
+    std::vector<std::optional<Single>> values;
+    std::optional<MarkerStyle> marker; // no markers when none
+    qreal markerSize = 0;              // in pixels
+    QColor markerFill;
+    QColor colour;
+};
+
+// The rows of a chart, its X axis: row r (from 0) stands at x = firstX + r,
+// and every labelEvery-th row from the first carries its label.
+struct ChartRows {
+    QString title;
+    QStringList labels;
+    qreal firstX = 1;
+    int labelEvery = 1;
+    qreal minimum = 0;
+    qreal maximum = 1;
+};
+
+// The value axis: from 0 to maximum, a label every `step` units (every fifth
+// of the maximum when step is 0 or less).
+struct ChartValueAxis {
+    QString title;
+    qreal maximum = 1;
+    qreal step = 0;
+};
+
+// Turns columns of values into what Qt Charts 6.4 can draw: it draws no gap in
+// a line and no per-point marker shape, so each column becomes one line series
+// per run of rows with a value, plus a companion scatter series for the
+// markers (a filled triangle for style 12, a ball for style 14). The adapter
+// owns the series and the two axes of its chart.
+class ChartAdapter : public QObject {
+    Q_OBJECT
+
+  public:
+    static constexpr int columnCount = 2;
+
+    // `chart` is the chart the adapter draws into; it gets the axes now.
+    explicit ChartAdapter(QChart* chart, QObject* parent = nullptr);
+
+    void setTitle(const QString& title);
+    void setRows(const ChartRows& rows);
+    void setValueAxis(const ChartValueAxis& axis);
+    // Replaces the series of a column (0 or 1) by those of `column`.
+    void setColumn(int column, const ChartColumn& data);
+
+    QChart* chart() const { return m_chart; }
+    QCategoryAxis* rowAxis() const { return m_rowAxis; }
+    QValueAxis* valueAxis() const { return m_valueAxis; }
+    // The line runs of a column, in the order of their rows.
+    const QList<QLineSeries*>& lineRuns(int column) const;
+    // The markers of a column; empty when the column shows none.
+    QScatterSeries* markers(int column) const;
+
+  signals:
+    // The mouse rests on (or leaves) the marker of a row of a column.
+    void pointHovered(int column, int row, bool state);
+
+  private:
+    struct ColumnSeries {
+        QList<QLineSeries*> runs;
+        QScatterSeries* markers = nullptr;
+    };
+
+    // Puts every series back in the chart in one order: the lines of both
+    // columns, then the markers, the second column's above the first's.
+    void restack();
+
+    QChart* m_chart;
+    QCategoryAxis* m_rowAxis;
+    QValueAxis* m_valueAxis;
+    qreal m_firstX = 1;
+    std::array<ColumnSeries, columnCount> m_columns;
+};
+
+// A colour of the core as Qt's.
+QColor toQColor(const Rgb& colour);
+
+} // namespace vesk::gui

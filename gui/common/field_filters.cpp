@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// The key filters and lost-focus checks of the fields, written once and configured per field.
+#include "gui/common/field_filters.h"
+
+#include "gui/common/text_codec.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace vesk::gui {
+
+namespace {
+
+constexpr int backspaceCode = 8;
+
+} // namespace
+
+std::optional<int> KeyCodeOf(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return std::nullopt; // moves the focus; no filter sees it
+    case Qt::Key_Backspace:
+        return backspaceCode;
+    default:
+        break;
+    }
+    if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z) {
+        return event.key() - Qt::Key_A + 1;
+    }
+    const QString text = event.text();
+    if (text.isEmpty()) {
+        return std::nullopt;
+    }
+    const std::string bytes = toWindows1252(text.left(1));
+    return bytes.empty() ? std::nullopt : std::optional<int>(static_cast<unsigned char>(bytes.front()));
+}
+
+bool MovesToAnotherControl(Qt::FocusReason reason) {
+    switch (reason) {
+    case Qt::MouseFocusReason:
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    default:
+        // A menu, a pop-up, another window, or code moving the focus.
+        return false;
+    }
+}
+
+FieldFilter::FieldFilter(QLineEdit* field, FieldRule rule) : QObject(field), m_field(field), m_rule(std::move(rule)) {
+    field->installEventFilter(this);
+}
+
+bool FieldFilter::leave() {
+    if (!m_rule.check || !m_rule.check()) {
+        return false;
+    }
+    m_field->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
+bool FieldFilter::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_field) {
+        return false;
+    }
+    if (event->type() == QEvent::KeyPress && m_rule.keys) {
+        const std::optional<int> code = KeyCodeOf(*static_cast<QKeyEvent*>(event));
+        if (code && !KeyPasses(*m_rule.keys, *code, toWindows1252(m_field->text()))) {
+            return true; // the key is thrown away
+        }
+    }
+    if (event->type() == QEvent::FocusOut && MovesToAnotherControl(static_cast<QFocusEvent*>(event)->reason())) {
+        leave();
+    }
+    return false;
+}
+
+FocusFilter::FocusFilter(QWidget* control, Handlers handlers) : QObject(control), m_handlers(std::move(handlers)) {
+    control->installEventFilter(this);
+}
+
+bool FocusFilter::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && m_handlers.entered) {
+        m_handlers.entered();
+    }
+    if (event->type() == QEvent::FocusOut && m_handlers.left) {
+        m_handlers.left(static_cast<QFocusEvent*>(event)->reason());
+    }
+    return false;
+}
+
+} // namespace vesk::gui

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// What the window tests share: screenshots for a person to look at.
+#include "gui/support/gui_test_support.h"
+
+#include <QDir>
+#include <QPixmap>
+#include <QWidget>
+
+namespace vesk::gui::test {
+
+QString saveScreenshot(QWidget* widget, const QString& name) {
+    QDir().mkpath(VESK_SCREENSHOT_DIR);
+    const QString file = QStringLiteral(VESK_SCREENSHOT_DIR) + "/" + name + ".png";
+    widget->grab().save(file);
+    return file;
+}
+
+} // namespace vesk::gui::test
