@@ -5,6 +5,7 @@
 
 #include "engine/flow_sweep.h"
 #include "engine/pipe_friction.h"
+#include "workbench/calculate.h"
 #include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>

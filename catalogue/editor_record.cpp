@@ -3,11 +3,11 @@
 // How an open component editor stores its fields and table into a record.
 #include "catalogue/editor_record.h"
 
+#include "catalogue/component_lists.h"
+
 namespace vesk {
 
 namespace {
-
-constexpr std::array<const char*, 3> listLetters{"A", "I", "C"};
 
 // The number of points a grid of `rows` rows stands for.
 Integer pointCountOf(const std::vector<std::array<std::string, 2>>& rows, Integer unchanged) {
@@ -27,10 +27,7 @@ Integer pointCountOf(const std::vector<std::array<std::string, 2>>& rows, Intege
 }
 
 void storeInto(ComponentRecord& record, const EditorFields& editor) {
-    if (editor.componentList >= listLetters.size()) {
-        fail(failure::subscript);
-    }
-    record.ListCodes = listLetters[editor.componentList];
+    record.ListCodes = at(componentListNames, editor.componentList).letter;
     record.Name = editor.name;
     record.IsGas = editor.flagOption;
     record.Origin = editor.custom ? "#Custom#" : "#Standard#";

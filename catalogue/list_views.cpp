@@ -3,6 +3,8 @@
 // What a user can pick: the records of the active list and fuel (or frequency).
 #include "catalogue/list_views.h"
 
+#include "catalogue/component_lists.h"
+
 #include <array>
 
 namespace vesk {
@@ -54,17 +56,20 @@ Long ComboList::FindEntry(const std::string& text) const {
 }
 
 std::string ActiveListCode(const ListOptions& options) {
-    const char* code = "";
-    if (options.optAmerican) {
-        code = "A";
+    // Each option on overwrites the letter of the one before it.
+    std::string_view code;
+    for (const ComponentListName& list : componentListNames) {
+        if (ListOptionOf(options, list.code)) {
+            code = list.letter;
+        }
     }
-    if (options.optInternational) {
-        code = "I";
-    }
-    if (options.optCommercial) {
-        code = "C";
-    }
-    return code;
+    return std::string(code);
+}
+
+bool ListOptionOf(const ListOptions& options, Byte componentList) {
+    static constexpr std::array<bool ListOptions::*, 3> optionOf{
+        &ListOptions::optAmerican, &ListOptions::optInternational, &ListOptions::optCommercial};
+    return options.*at(optionOf, componentList);
 }
 
 ListSlots ListSlotsOf(const std::string& listCodes) {

@@ -69,6 +69,10 @@ struct ListSlots {
 // list option is on.
 std::string ActiveListCode(const ListOptions& options);
 
+// The option of a component list by its code (0 American, 1 International,
+// 2 Commercial).
+bool ListOptionOf(const ListOptions& options, Byte componentList);
+
 // The slots of a record's list codes: any three letters fill all three; "AI",
 // "A", "I", "C" fill their own; "IC" fills only the second slot, with "C", so
 // such a record shows with Commercial and not with International; anything

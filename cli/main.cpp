@@ -4,6 +4,7 @@
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
 #include "workbench/site_file.h"
+#include "workbench/calculate.h"
 #include "workbench/startup.h"
 
 #include <charconv>
@@ -98,10 +99,7 @@ void printTable(const vesk::ApplicationState& app) {
 }
 
 void printDetails(vesk::ApplicationState& app) {
-    const vesk::SiteDescription site = vesk::BuildSiteDescription(app.panel, app.config);
-    const vesk::HydraulicSite hydraulics(site, app.piping, app.catalogues);
-    vesk::DetailsStepping(hydraulics, app.results.engine);
-    const vesk::HeadLossBreakdown& b = app.results.engine.Breakdown;
+    const vesk::HeadLossBreakdown& b = vesk::RunDetails(app);
     const std::pair<const char*, vesk::Single> fields[] = {
         {"TotalRise", b.TotalRise},         {"LeakDetectorLoss", b.LeakDetectorLoss},
         {"TrunkLoss", b.TrunkLoss},         {"BranchLoss", b.BranchLoss},

@@ -3,8 +3,10 @@
 // Vesk.ini: the five lines of settings kept between runs.
 #include "site/settings_file.h"
 
+#include "catalogue/component_lists.h"
 #include "catalogue/data_file_path.h"
 #include "catalogue/text_lines.h"
+#include "site/boolean_text.h"
 
 #include <vector>
 
@@ -16,8 +18,6 @@ constexpr int iniLineCount = 5;
 constexpr int corruptMessage = 9;
 constexpr int missingMessage = 8;
 constexpr Integer largestMaxNozzles = 40;
-
-constexpr std::array<std::string_view, 3> componentListLetters{"A", "I", "C"};
 
 // IniLines: the lines up to the end of the file. A sixth line, an empty line
 // among the five, or fewer than five end the process with message 9.
@@ -46,9 +46,9 @@ std::array<std::string, iniLineCount> readIniLines(const std::filesystem::path& 
 // "True" or "False", compared exactly; anything else warns with message 9 and
 // leaves the property as it was.
 void readTrueFalse(const std::string& line, bool& property, UserInteraction& ui) {
-    if (line == "True") {
+    if (line == trueText) {
         property = true;
-    } else if (line == "False") {
+    } else if (line == falseText) {
         property = false;
     } else {
         ShowMessage(corruptMessage, ui);
@@ -56,9 +56,9 @@ void readTrueFalse(const std::string& line, bool& property, UserInteraction& ui)
 }
 
 void readComponentList(const std::string& line, Byte& property, UserInteraction& ui) {
-    for (std::size_t i = 0; i < componentListLetters.size(); ++i) {
-        if (line == componentListLetters[i]) {
-            property = static_cast<Byte>(i);
+    for (const ComponentListName& list : componentListNames) {
+        if (line == list.letter) {
+            property = list.code;
             return;
         }
     }
@@ -104,12 +104,9 @@ std::string ComposeIniFile(const IniRawLines& rawLines, const clsConfigureData& 
     std::string text;
     appendLine(text, rawLines.maxNozzles);
     appendLine(text, rawLines.branches);
-    appendLine(text, config.Data ? "True" : "False");
-    appendLine(text, config.Units ? "True" : "False");
-    if (config.ComponentList >= componentListLetters.size()) {
-        fail(failure::subscript);
-    }
-    appendLine(text, componentListLetters[config.ComponentList]);
+    appendLine(text, BooleanText(config.Data));
+    appendLine(text, BooleanText(config.Units));
+    appendLine(text, at(componentListNames, config.ComponentList).letter);
     return text;
 }
 

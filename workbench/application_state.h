@@ -4,16 +4,17 @@
 #pragma once
 
 #include "engine/catalogues.h"
-#include "engine/piping_tables.h"
 #include "engine/flow_sweep.h"
-#include "workbench/flow_chart.h"
-#include "workbench/pump_curve.h"
+#include "engine/piping_tables.h"
 #include "site/configure_data.h"
-#include "workbench/panel_state.h"
-#include "workbench/result_grid.h"
 #include "site/settings_file.h"
 #include "site/site_properties.h"
-#include "site/site_snapshot.h"
+#include "workbench/flow_chart.h"
+#include "workbench/panel_state.h"
+#include "workbench/pump_curve.h"
+#include "workbench/result_grid.h"
+#include "workbench/snapshot_store.h"
+#include "workbench/window_state.h"
 
 #include <filesystem>
 #include <string>
@@ -41,13 +42,6 @@ struct ResultTables {
     EngineScratch engine;
 };
 
-// The three copies of the panels; only the Baseline's is restored.
-struct Snapshots {
-    SiteSnapshot StartupSnapshot;
-    SiteSnapshot BaselineSnapshot;
-    SiteSnapshot SpareSnapshot;
-};
-
 struct ApplicationState {
     std::filesystem::path programFolder;
     std::string strSiteFile;
@@ -60,6 +54,7 @@ struct ApplicationState {
 
     PanelState panel;
     WorkflowFlags flags;
+    WindowState window;
 
     ResultGrid flxCurrent;
     ResultGrid flxBaseLine;

@@ -4,6 +4,7 @@
 #include "workbench/details_view.h"
 
 #include "engine/site_description.h"
+#include "workbench/calculate.h"
 #include "engine/number_format.h"
 
 namespace vesk {
@@ -36,6 +37,11 @@ constexpr std::array<DetailsRow, detailsLineCount> detailsRows{{
 }};
 
 } // namespace
+
+std::array<DetailsLine, detailsLineCount> LoadDetails(ApplicationState& app) {
+    const HeadLossBreakdown& breakdown = RunDetails(app);
+    return DetailsLines(breakdown, TouchFrmData(app.panel, app.config).optUS);
+}
 
 std::array<DetailsLine, detailsLineCount> DetailsLines(const HeadLossBreakdown& breakdown, bool optUS) {
     std::array<DetailsLine, detailsLineCount> lines;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/system_head.h"
+#include "workbench/application_state.h"
 
 #include <array>
 #include <string>
@@ -27,5 +28,9 @@ inline constexpr int detailsLineCount = 11;
 // values in feet, otherwise the metric captions and the values times 0.3048.
 // A term that is exactly 0 shows "O/R"; the others "##0.0", the hose "##0.0#".
 std::array<DetailsLine, detailsLineCount> DetailsLines(const HeadLossBreakdown& breakdown, bool optUS);
+
+// The load of the dialog: the details stepping of the entries on the panels
+// now (RunDetails), shown in the units of the System Settings dialog.
+std::array<DetailsLine, detailsLineCount> LoadDetails(ApplicationState& app);
 
 } // namespace vesk

@@ -3,7 +3,7 @@
 // What the fields of the four areas accept, and how a bad entry is turned away.
 #include "workbench/field_checks.h"
 
-#include "workbench/startup.h"
+#include "workbench/calculate.h"
 
 namespace vesk {
 
@@ -38,35 +38,15 @@ bool KeyPasses(KeyFilter filter, int keyCode, const std::string& text) {
     return filter == KeyFilter::Decimal && keyCode == '.' && text.find('.') == std::string::npos;
 }
 
-// The metric limits are the US ones times the factor, rounded up.
-const std::array<LengthField, 7> lengthFields{{
-    {&PanelState::txtHoseLen, "txtHoseLen", 304.5, 999},
-    {&PanelState::txtPipeLen, "txtPipeLen", 3047.7, 9999},
-    {&PanelState::txtBranchLength, "txtBranchLength", 3047.7, 9999},
-    {&PanelState::txtTrunkLength, "txtTrunkLength", 3047.7, 9999},
-    {&PanelState::txtTankDiameter, "txtTankDiameter", 25397.5, 9999},
-    {&PanelState::txtBuryDepth, "txtBuryDepth", 3047.7, 9999},
-    {&PanelState::txtRise, "txtRise", 3047.7, 9999},
-}};
-
-const LengthField& LengthFieldNamed(const std::string& controlName) {
-    for (const LengthField& field : lengthFields) {
-        if (controlName == field.controlName) {
-            return field;
-        }
-    }
-    fail(failure::subscript);
-}
-
-bool LengthCheck(ApplicationState& app, const LengthField& field, UserInteraction& ui) {
-    std::string& text = app.panel.*field.field;
+bool LengthCheck(ApplicationState& app, const PanelField& field, UserInteraction& ui) {
+    std::string& text = TextOf(app.panel, field);
     if (text.empty()) {
         text = "0";
         app.flags.blnFieldValid = true;
         return false;
     }
     // The limit of the Units setting, compared strictly: the limit passes.
-    const Double limit = app.config.Units ? field.usLimit : field.metricLimit;
+    const Double limit = app.config.Units ? field.unit.usLimit : field.unit.metricLimit;
     if (leadingNumber(text) > limit) {
         ui.showMessageBox(maximumMessage + doubleText(limit), MessageIcon::None);
         app.flags.blnFieldValid = false;
@@ -115,8 +95,11 @@ bool NozzleCheck(ApplicationState& app, UserInteraction& ui) {
 
 bool ValidateAllFields(ApplicationState& app, UserInteraction& ui) {
     NozzleCheck(app, ui);
-    for (const LengthField& field : lengthFields) {
-        LengthCheck(app, field, ui);
+    // The lengths in an order of their own: the flag that is given back
+    // belongs to the rise alone.
+    for (const char* name : {"txtHoseLen", "txtPipeLen", "txtBranchLength", "txtTrunkLength", "txtTankDiameter",
+                             "txtBuryDepth", "txtRise"}) {
+        LengthCheck(app, FieldNamed(name), ui);
     }
     return app.flags.blnFieldValid;
 }

@@ -5,37 +5,23 @@
 
 #include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+#include "workbench/panel_fields.h"
 
 #include <array>
 #include <string>
 
 namespace vesk {
 
-enum class KeyFilter { Digits, Decimal };
-
 // A key typed into a field: codes of 128 and above are thrown away, backspace
 // always passes; digits pass; the decimal filter also takes one ".".
 bool KeyPasses(KeyFilter filter, int keyCode, const std::string& text);
-
-// A field of the length family with its largest values.
-struct LengthField {
-    std::string PanelState::*field;
-    const char* controlName;
-    Double metricLimit;
-    Double usLimit;
-};
-
-// The length fields in the order ValidateAllFields checks them.
-extern const std::array<LengthField, 7> lengthFields;
-
-const LengthField& LengthFieldNamed(const std::string& controlName);
 
 // The length check on the loss of focus: an empty text becomes "0"; a value
 // above the limit of the Units setting (not the active flags) shows "Maximum
 // Value can be entered is " and the limit, keeps the value and asks for the
 // focus back; any other text becomes the number written back ("007.50" gives
 // "7.5"). Sets blnFieldValid. Returns whether the focus goes back.
-bool LengthCheck(ApplicationState& app, const LengthField& field, UserInteraction& ui);
+bool LengthCheck(ApplicationState& app, const PanelField& field, UserInteraction& ui);
 
 // The count check of the fitting fields: an empty text becomes "0", any other
 // the number written back. No message; blnFieldValid is left alone.

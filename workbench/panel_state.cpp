@@ -3,7 +3,16 @@
 // The inputs of the main window and the System Settings dialog as plain data.
 #include "workbench/panel_state.h"
 
+#include "catalogue/component_lists.h"
+#include "workbench/panel_fields.h"
+
 namespace vesk {
+
+bool FrmDataOptions::*ComponentListOption(Byte componentList) {
+    static constexpr std::array<bool FrmDataOptions::*, 3> optionOf{
+        &FrmDataOptions::optAmerican, &FrmDataOptions::optInternational, &FrmDataOptions::optCommercial};
+    return at(optionOf, componentList);
+}
 
 FrmDataOptions LoadFrmDataOptions(const clsConfigureData& config) {
     FrmDataOptions options;
@@ -11,20 +20,26 @@ FrmDataOptions LoadFrmDataOptions(const clsConfigureData& config) {
     options.optDiesel = !config.Data;
     options.optUS = config.Units;
     options.optMetric = !config.Units;
-    options.optAmerican = config.ComponentList == 0;
-    options.optInternational = config.ComponentList == 1;
-    options.optCommercial = config.ComponentList == 2;
+    for (const ComponentListName& list : componentListNames) {
+        options.*ComponentListOption(list.code) = config.ComponentList == list.code;
+    }
     return options;
 }
 
 UnitCaptions UsCaptions() {
-    // The small "h" of the hose caption is the system's own.
-    return {"Hose length(ft)", "Length(ft)", "Length(ft)",         "Length(ft)",
-            "Bury Depth(ft)",  "Rise(ft)",   "Tank Diameter(inch)"};
+    UnitCaptions captions;
+    for (const PanelField* field : LengthFields()) {
+        captions.*field->unit.label = field->unit.usCaption;
+    }
+    return captions;
 }
 
 UnitCaptions MetricCaptions() {
-    return {"Hose Length(m)", "Length(m)", "Length(m)", "Length(m)", "Bury Depth(m)", "Rise(m)", "Tank Diameter(cm)"};
+    UnitCaptions captions;
+    for (const PanelField* field : LengthFields()) {
+        captions.*field->unit.label = field->unit.metricCaption;
+    }
+    return captions;
 }
 
 const FrmDataOptions& TouchFrmData(PanelState& panel, const clsConfigureData& config) {
@@ -122,14 +137,14 @@ ComponentChoice choiceOf(const ComboList& list) {
     return {list.ListIndex(), list.Text()};
 }
 
+// The letter of the list option that is on; American when none is.
 char marketOf(const FrmDataOptions& dialog) {
-    if (dialog.optInternational) {
-        return 'I';
+    for (const ComponentListName& list : componentListNames) {
+        if (dialog.*ComponentListOption(list.code)) {
+            return list.letter[0];
+        }
     }
-    if (dialog.optCommercial) {
-        return 'C';
-    }
-    return 'A';
+    return componentListNames[0].letter[0];
 }
 
 std::array<Integer, 4> fittingCounts(const std::array<std::string, 4>& texts) {

@@ -24,6 +24,10 @@ struct FrmDataOptions {
     bool optMetric = false;
 };
 
+// The option of a component list by its code (0 American, 1 International,
+// 2 Commercial).
+bool FrmDataOptions::*ComponentListOption(Byte componentList);
+
 // What the dialog's load sets from clsConfigureData.
 FrmDataOptions LoadFrmDataOptions(const clsConfigureData& config);
 

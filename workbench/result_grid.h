@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace vesk {
 
@@ -39,6 +40,22 @@ class ResultGrid {
   private:
     std::array<std::array<GridCell, gridColumnCount>, gridRowCount> m_cells{};
 };
+
+// The rows that no field or list of the panels fills: the choices of the
+// piping and the settings, each in column 1.
+inline constexpr long valveRow = 21;
+inline constexpr long modeRow = 22;
+inline constexpr long frequencyRow = 27;
+inline constexpr long fuelRow = 34;
+inline constexpr long componentListRow = 35;
+
+// Their texts.
+inline constexpr std::string_view basicText = "Basic";
+inline constexpr std::string_view advanceText = "Advance";
+inline constexpr std::string_view fiftyHzText = "50Hz Pump ";
+inline constexpr std::string_view sixtyHzText = "60Hz Pump ";
+inline constexpr std::string_view gasText = "Gas";
+inline constexpr std::string_view dieselText = "Diesel";
 
 // The two grids differ only in some captions: the twin routines are one
 // routine told apart by this.

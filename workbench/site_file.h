@@ -1,23 +1,25 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// The site file: 52 lines, names not indices, feet and inches always.
+// What Save writes from the grid and what Open sets on the panels: the site file and the main window.
 #pragma once
 
 #include "messages/user_interaction.h"
+#include "site/site_file_format.h"
 #include "workbench/application_state.h"
 
-#include <array>
 #include <string>
 
 namespace vesk {
 
-inline constexpr int siteFileLineCount = 52;
-using SiteFileLines = std::array<std::string, siteFileLineCount>;
+// The 52 lines of a site: the rows of flxCurrent (the inputs of the last
+// Calculate), lengths converted back to feet and the tank to inches when the
+// System Settings dialog says metric, line 39 from its units option, and lines
+// 42 to 51 from clsSiteProperties.
+SiteFileLines ComposeSiteFileLines(const ResultGrid& flxCurrent, const FrmDataOptions& frmData,
+                                   const clsSiteProperties& properties);
 
-// The 52 lines WriteSiteFile writes: the rows of flxCurrent (the inputs of the
-// last Calculate), lengths converted back to feet and the tank to inches when
-// the System Settings dialog says metric, and lines 42 to 51 from the getters
-// of clsSiteProperties.
+// The lines WriteSiteFile writes: the System Settings dialog is touched, which
+// loads it when it is not loaded, and the lines composed from it.
 SiteFileLines ComposeSiteFile(ApplicationState& app);
 
 // WriteSiteFile: composes the lines, then replaces the file, each line ended

@@ -4,20 +4,29 @@
 #pragma once
 
 #include "messages/user_interaction.h"
-#include "workbench/application_state.h"
+#include "site/configure_data.h"
+#include "site/site_snapshot.h"
+#include "workbench/panel_state.h"
 
 namespace vesk {
+
+// The three copies of the panels; only the Baseline's is restored.
+struct Snapshots {
+    SiteSnapshot StartupSnapshot;
+    SiteSnapshot BaselineSnapshot;
+    SiteSnapshot SpareSnapshot;
+};
 
 // FillStartupSnapshots: the panels at the end of start-up into all three
 // snapshots, except the fields that only the Baseline takes (quantity, number
 // of branches, settings, the unused slots); the piping mode and the frequency
 // go to the start-up snapshot only.
-void FillStartupSnapshots(ApplicationState& app);
+void FillStartupSnapshots(PanelState& panel, const clsConfigureData& config, Snapshots& snapshots);
 
 // StoreBaselineSnapshot: the panels and the settings in force into the
 // Baseline snapshot. Its pump is copied from the start-up snapshot, so the
 // Baseline snapshot always holds the pump of start-up.
-void StoreBaselineSnapshot(ApplicationState& app);
+void StoreBaselineSnapshot(PanelState& panel, const clsConfigureData& config, Snapshots& snapshots);
 
 // RestoreBaselineSnapshot: under other settings (component list, fuel, or
 // frequency) shows "System Settings has changed" and changes nothing;
@@ -25,6 +34,7 @@ void StoreBaselineSnapshot(ApplicationState& app);
 // on the screen. Neither the piping mode nor the pump-side component, the
 // pipe size, the valves or the number of nozzles is restored. Returns whether
 // the panels were restored.
-bool RestoreBaselineSnapshot(ApplicationState& app, UserInteraction& ui);
+bool RestoreBaselineSnapshot(PanelState& panel, const clsConfigureData& config, SiteSnapshot& baseline,
+                             UserInteraction& ui);
 
 } // namespace vesk

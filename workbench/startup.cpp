@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// The initialisation of the main window and the Calculate that ends it.
+// The initialisation of the main window, at start-up and at File, New.
 #include "workbench/startup.h"
 
 #include "catalogue/component_file.h"
 #include "catalogue/piping_file.h"
+#include "workbench/calculate.h"
 #include "workbench/snapshot_store.h"
+#include "workbench/system_settings.h"
 
 namespace vesk {
 
@@ -64,76 +66,7 @@ void fillAndSelectLists(ApplicationState& app) {
     panel.cmbHoseSize.SetListIndex(0);
 }
 
-// A field's text converted between units: read as a Double, multiplied or
-// divided, rounded to 1 decimal, written back.
-std::string convertFieldText(const std::string& text, Double factor, bool toMetric) {
-    const Double value = parseNumber(text);
-    const Double converted = toMetric ? value * factor : value / factor;
-    return doubleText(roundHalfEven(converted, 1));
-}
-
-void convertFields(PanelState& panel, bool toMetric) {
-    for (std::string* field : {&panel.txtHoseLen, &panel.txtBranchLength, &panel.txtTrunkLength, &panel.txtPipeLen,
-                               &panel.txtBuryDepth, &panel.txtRise}) {
-        *field = convertFieldText(*field, units::metresPerFoot, toMetric);
-    }
-    panel.txtTankDiameter = convertFieldText(panel.txtTankDiameter, units::centimetresPerInch, toMetric);
-    panel.captions = toMetric ? MetricCaptions() : UsCaptions();
-}
-
-void sweepInto(ApplicationState& app, FlowTable& table, SweepButton button) {
-    const SiteDescription site = BuildSiteDescription(app.panel, app.config);
-    const HydraulicSite hydraulics(site, app.piping, app.catalogues);
-    Sweep(table, app.results.NozzleLabels, button, hydraulics, app.results.engine);
-}
-
-void rebuildChartRows(ApplicationState& app, const FlowTable& ownTable) {
-    app.LastChartNozzles = RebuildChartRows(app.flowChart, app.LastChartNozzles, app.ChartNozzles, ownTable);
-}
-
 } // namespace
-
-bool ApplySystemSettings(ApplicationState& app) {
-    PanelState& panel = app.panel;
-    LoadAllLists(panel, app.catalogues, app.config);
-
-    const FrmDataOptions& dialog = TouchFrmData(panel, app.config);
-    app.config.Data = dialog.optGas;
-    if (dialog.optAmerican) {
-        app.config.ComponentList = 0;
-    }
-    if (dialog.optInternational) {
-        app.config.ComponentList = 1;
-    }
-    if (dialog.optCommercial) {
-        app.config.ComponentList = 2;
-    }
-    app.config.Units = dialog.optUS;
-
-    if (dialog.optUS && app.flags.blnMetricActive) {
-        convertFields(panel, false);
-        app.flags.blnMetricActive = false;
-        app.flags.blnUSActive = true;
-    }
-    if (dialog.optMetric && app.flags.blnUSActive) {
-        convertFields(panel, true);
-        app.flags.blnMetricActive = true;
-        app.flags.blnUSActive = false;
-    }
-    const bool replot = !app.flags.ChartNotDrawnYet;
-    if (replot) {
-        ReplotForUnits(app.flowChart, app.results.Current, app.results.Baseline, app.ChartNozzles, app.config.Units);
-    }
-    panel.frmDataLoaded = false;
-    return replot;
-}
-
-void CreateResultTables(ApplicationState& app) {
-    app.ChartNozzles = NextEvenNozzles(parseInteger(app.panel.txtNoOfNozzle));
-    CreateFlowTable(app.results.Current, app.ChartNozzles);
-    CreateFlowTable(app.results.Baseline, app.ChartNozzles);
-    CreateChartMatrix(app.flowChart, app.ChartNozzles);
-}
 
 void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
     app.caption = DefaultSiteFile(app.programFolder);
@@ -152,10 +85,15 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
 
     ReadIniFile(app.programFolder, ui, {app.config, app.panel.txtMaxNozz, app.panel.cmbNoOfBranches, app.iniRawLines});
 
+    // The panels: the Dispensing Area on show, Advance and 60 Hz chosen, the
+    // recommendation lists disabled.
+    app.window.tabMain = Area::Dispensing;
     app.panel.optAdvance = true;
     app.panel.optBasic = false;
     app.panel.opt60Hz = true;
     app.panel.opt50Hz = false;
+    app.window.recommendation.lstDispensingEnabled = false;
+    app.window.recommendation.lstPumpEnabled = false;
 
     app.flags.BaselineGridPending = false;
     app.flags.NeedBaseline = true;
@@ -176,7 +114,9 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
         app.panel.cmbQuantity.AddItem(quantity);
     }
     app.panel.cmbQuantity.SetListIndex(0);
+    // Choosing the first number of branches loads the site picture.
     app.panel.cmbNoOfBranches.SetListIndex(0);
+    app.window.sitePictureDue = true;
 
     FormatGrid(app.flxCurrent);
     FormatGrid(app.flxBaseLine);
@@ -193,53 +133,11 @@ void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui) {
 
     FillGrid(app.flxCurrent, GridSide::Current, app.panel, app.config);
     FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
-    FillStartupSnapshots(app);
+    FillStartupSnapshots(app.panel, app.config, app.snapshots);
 
     Calculate(app);
     UpdatePumpCurve(app.pumpCurve, app.panel, app.config, app.catalogues);
     app.flags.blnSaved = true;
-}
-
-void Calculate(ApplicationState& app) {
-    app.flags.ChartNotDrawnYet = false;
-    app.flowChart.lblCurrentPump = LegendLabel(ChartSide::Current, app.panel.cmbPumps.Text());
-    FillNozzleAxis(app.results.Current);
-    rebuildChartRows(app, app.results.Current);
-    sweepInto(app, app.results.Current, SweepButton::Calculate);
-    DrawSeries(app.flowChart, ChartSide::Current, app.results.Current, app.results.Baseline, app.ChartNozzles,
-               app.config.Units);
-    if (app.flags.NeedBaseline) {
-        MakeBaseline(app);
-        app.flags.NeedBaseline = false;
-    }
-    FillGrid(app.flxCurrent, GridSide::Current, app.panel, app.config);
-    app.flags.blnSaved = false;
-}
-
-void MakeBaseline(ApplicationState& app) {
-    app.flags.NeedBaseline = false;
-    app.flowChart.lblBaselinePump = LegendLabel(ChartSide::Baseline, app.panel.cmbPumps.Text());
-    app.flags.BaselineGridPending = true;
-    FillNozzleAxis(app.results.Baseline);
-    rebuildChartRows(app, app.results.Baseline);
-    sweepInto(app, app.results.Baseline, SweepButton::BaseLine);
-    DrawSeries(app.flowChart, ChartSide::Baseline, app.results.Baseline, app.results.Current, app.ChartNozzles,
-               app.config.Units);
-    if (!app.flags.NeedBaseline) { // always so here
-        StoreBaselineSnapshot(app);
-    }
-    if (!app.flags.NeedBaseline || app.flags.BaselineGridPending) {
-        FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
-        app.flags.BaselineGridPending = false;
-    }
-}
-
-void BackToBaseline(ApplicationState& app, UserInteraction& ui) {
-    // The three steps run with no check between them: under other settings
-    // the message shows, and a Baseline of the panels as they are is made.
-    RestoreBaselineSnapshot(app, ui);
-    FillGrid(app.flxBaseLine, GridSide::Baseline, app.panel, app.config);
-    MakeBaseline(app);
 }
 
 } // namespace vesk

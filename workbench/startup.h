@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// The initialisation of the main window and the Calculate that ends it.
+// The initialisation of the main window, at start-up and at File, New.
 #pragma once
 
 #include "messages/user_interaction.h"
@@ -19,28 +19,5 @@ std::string DefaultSiteFile(const std::filesystem::path& programFolder);
 // File, New: the texts of the fields stay as they are, except the hose length.
 // A missing or damaged file shows its message and ends the process.
 void InitialiseMainWindow(ApplicationState& app, UserInteraction& ui);
-
-// The Ok of the System Settings dialog, frmData.cmdOk_Click, as logic: lists
-// refilled, clsConfigureData told, the fields converted once between units
-// (guarded by blnUSActive and blnMetricActive) and the captions set, and the
-// dialog unloaded. Returns whether the graph is to be re-plotted in the new
-// units (a Calculate has run before).
-bool ApplySystemSettings(ApplicationState& app);
-
-// Calculate (cmdCalculate): the Current sweep, and the Baseline too while
-// NeedBaseline is set. Clears blnSaved.
-void Calculate(ApplicationState& app);
-
-// Make Baseline (BaseLine): the Baseline sweep.
-void MakeBaseline(ApplicationState& app);
-
-// ChartNozzles from the text of txtNoOfNozzle, the next even number above it,
-// and both result tables created anew and cleared. NoOfNozzles is not touched.
-void CreateResultTables(ApplicationState& app);
-
-// Back To Baseline: the panels restored from the Baseline snapshot (or the
-// message "System Settings has changed" and the panels left as they are),
-// then the Baseline grid filled and Make Baseline, whatever the restore did.
-void BackToBaseline(ApplicationState& app, UserInteraction& ui);
 
 } // namespace vesk

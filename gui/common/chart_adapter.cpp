@@ -6,6 +6,7 @@
 #include <QBrush>
 #include <QCategoryAxis>
 #include <QChart>
+#include <QChartView>
 #include <QLineSeries>
 #include <QPen>
 #include <QScatterSeries>
@@ -30,6 +31,17 @@ QScatterSeries::MarkerShape shapeOf(MarkerStyle style) {
 }
 
 } // namespace
+
+QChartView* MakeChartView(const char* name, ChartAdapter*& adapter, QObject* owner) {
+    auto* chart = new QChart;
+    chart->setBackgroundRoundness(0);
+    chart->setMargins(QMargins(4, 4, 4, 4));
+    auto* view = new QChartView(chart);
+    view->setObjectName(QString::fromLatin1(name));
+    view->setRenderHint(QPainter::Antialiasing);
+    adapter = new ChartAdapter(chart, owner);
+    return view;
+}
 
 QColor toQColor(const Rgb& colour) {
     return QColor(colour.red, colour.green, colour.blue);

@@ -15,6 +15,7 @@
 #include <vector>
 
 class QCategoryAxis;
+class QChartView;
 class QChart;
 class QLineSeries;
 class QScatterSeries;
@@ -99,6 +100,10 @@ class ChartAdapter : public QObject {
     qreal m_firstX = 1;
     std::array<ColumnSeries, columnCount> m_columns;
 };
+
+// A chart view, named for its control, over a new chart that `adapter` is
+// made to draw into; the adapter belongs to `owner`.
+QChartView* MakeChartView(const char* name, ChartAdapter*& adapter, QObject* owner);
 
 // A colour of the core as Qt's.
 QColor toQColor(const Rgb& colour);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "workbench/field_checks.h"
+#include "workbench/panel_fields.h"
 
 #include <QObject>
 #include <functional>

@@ -20,15 +20,6 @@ namespace vesk::gui {
 
 namespace {
 
-// The lines of the breakdown in the settings of the System Settings dialog.
-std::array<DetailsLine, detailsLineCount> computeLines(ApplicationState& app) {
-    const SiteDescription site = BuildSiteDescription(app.panel, app.config);
-    const HydraulicSite hydraulics(site, app.piping, app.catalogues);
-    DetailsStepping(hydraulics, app.results.engine);
-    const bool optUS = TouchFrmData(app.panel, app.config).optUS;
-    return DetailsLines(app.results.engine.Breakdown, optUS);
-}
-
 QLabel* captionLabel(const DetailsLine& line, QWidget* parent) {
     auto* label = new QLabel(fromWindows1252(line.caption), parent);
     label->setObjectName(fromWindows1252(line.captionControl));
@@ -53,7 +44,7 @@ DetailsDialog::DetailsDialog(ApplicationState& app, QWidget* parent) : QDialog(p
     setWindowTitle(QString::fromLatin1(detailsCaption));
     setModal(true);
 
-    const std::array<DetailsLine, detailsLineCount> lines = computeLines(app);
+    const std::array<DetailsLine, detailsLineCount> lines = LoadDetails(app);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(16);

@@ -5,7 +5,7 @@
 
 #include "gui/workbench/dialogs.h"
 
-#include "workbench/startup.h"
+#include "workbench/system_settings.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -48,7 +48,7 @@ TEST(KeyPasses, DecimalTakesOnePoint) {
 }
 
 TEST_F(FieldChecks, HoseLengthOf999PassesInUsUnitsAnd999Point1IsRefused) {
-    const LengthField& hose = LengthFieldNamed("txtHoseLen");
+    const PanelField& hose = FieldNamed("txtHoseLen");
     panel().txtHoseLen = "999";
     EXPECT_FALSE(LengthCheck(app(), hose, started.ui));
     EXPECT_TRUE(app().flags.blnFieldValid);
@@ -65,19 +65,19 @@ TEST_F(FieldChecks, TheMetricLimitIsWrittenAsItStands) {
         options.optMetric = true;
     });
     panel().txtTankDiameter = "25397.6";
-    EXPECT_TRUE(LengthCheck(app(), LengthFieldNamed("txtTankDiameter"), started.ui));
+    EXPECT_TRUE(LengthCheck(app(), FieldNamed("txtTankDiameter"), started.ui));
     EXPECT_EQ(shown(), std::vector<std::string>{"Maximum Value can be entered is 25397.5"});
 }
 
 TEST_F(FieldChecks, ATankOf9999PassesInBothUnits) {
     panel().txtTankDiameter = "9999";
-    EXPECT_FALSE(LengthCheck(app(), LengthFieldNamed("txtTankDiameter"), started.ui));
+    EXPECT_FALSE(LengthCheck(app(), FieldNamed("txtTankDiameter"), started.ui));
     chooseSettings(app(), [](FrmDataOptions& options) {
         options.optUS = false;
         options.optMetric = true;
     });
     panel().txtTankDiameter = "9999";
-    EXPECT_FALSE(LengthCheck(app(), LengthFieldNamed("txtTankDiameter"), started.ui));
+    EXPECT_FALSE(LengthCheck(app(), FieldNamed("txtTankDiameter"), started.ui));
     EXPECT_TRUE(shown().empty());
 }
 
@@ -85,7 +85,7 @@ TEST_F(FieldChecks, TheLimitFollowsTheUnitsSettingNotTheActiveFlags) {
     app().config.Units = false; // as a site read sets it
     app().flags.blnUSActive = true;
     panel().txtBuryDepth = "3047.8";
-    EXPECT_TRUE(LengthCheck(app(), LengthFieldNamed("txtBuryDepth"), started.ui));
+    EXPECT_TRUE(LengthCheck(app(), FieldNamed("txtBuryDepth"), started.ui));
     EXPECT_EQ(shown(), std::vector<std::string>{"Maximum Value can be entered is 3047.7"});
 }
 
@@ -93,7 +93,7 @@ TEST_F(FieldChecks, ALengthIsWrittenBackAsANumber) {
     for (const auto& [typed, written] : std::vector<std::pair<std::string, std::string>>{
              {"007.50", "7.5"}, {".", "0"}, {"", "0"}, {"12abc", "12"}, {"3.", "3"}}) {
         panel().txtRise = typed;
-        LengthCheck(app(), LengthFieldNamed("txtRise"), started.ui);
+        LengthCheck(app(), FieldNamed("txtRise"), started.ui);
         EXPECT_EQ(panel().txtRise, written) << typed;
     }
 }

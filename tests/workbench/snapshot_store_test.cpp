@@ -142,7 +142,7 @@ TEST_F(SnapshotTest, PositionsNotNamesAreKept) {
     panel().cmbDispenser.AddItem("None");
     panel().cmbDispenser.AddItem("Other");
     panel().cmbDispenser.AddItem("Another");
-    RestoreBaselineSnapshot(app(), started.ui);
+    RestoreBaselineSnapshot(app().panel, app().config, app().snapshots.BaselineSnapshot, started.ui);
     EXPECT_EQ(panel().cmbDispenser.ListIndex(), 2);
     EXPECT_NE(panel().cmbDispenser.Text(), name);
 }
@@ -165,7 +165,7 @@ TEST_F(SnapshotTest, MakeBaselineSettingsAndTypingLeaveTheSavedFlagAlone) {
 
 TEST_F(SnapshotTest, AListWithNothingSelectedCannotBeKeptInAByte) {
     panel().cmbLeak.SetListIndex(-1);
-    EXPECT_THROW(StoreBaselineSnapshot(app()), RunTimeFailure);
+    EXPECT_THROW(StoreBaselineSnapshot(app().panel, app().config, app().snapshots), RunTimeFailure);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "support/temp_program_folder.h"
 #include "gui/common/chart_adapter.h"
 #include "gui/common/field_filters.h"
+#include "gui/common/run_event.h"
 #include "gui/workbench/main_window.h"
 #include "gui/common/text_codec.h"
 
