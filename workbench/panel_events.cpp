@@ -16,11 +16,11 @@ void LeaveAreaButton(WindowState& window, Area area, bool tabbedForward) {
     }
 }
 
-RecommendationClears EnterControl(ApplicationState& app, std::string_view control) {
+RecommendationClears EnterControl(PanelState& panel, WindowState& window, std::string_view control) {
     if (control == "optBasic") {
-        ChoosePipingMode(app.panel, true);
+        ChoosePipingMode(panel, true);
     }
-    return FocusEntered(control, app.panel, app.window.recommendation);
+    return FocusEntered(control, panel, window.recommendation);
 }
 
 void ChoosePipingMode(PanelState& panel, bool basic) {
@@ -28,16 +28,16 @@ void ChoosePipingMode(PanelState& panel, bool basic) {
     panel.optAdvance = !basic;
 }
 
-void ClickList(ApplicationState& app, const PanelList& list, Long index) {
-    (app.panel.*list.list).SetListIndex(index);
+void ClickList(PanelState& panel, WindowState& window, const PanelList& list, Long index) {
+    (panel.*list.list).SetListIndex(index);
     if (list.list == &PanelState::cmbNoOfBranches) {
-        app.window.sitePictureDue = true;
+        window.sitePictureDue = true;
     }
 }
 
-void LeaveList(ApplicationState& app, const PanelList& list) {
+void LeaveList(WindowState& window, const PanelList& list) {
     if (list.list == &PanelState::cmbQuantity) {
-        app.window.sitePictureDue = true;
+        window.sitePictureDue = true;
     }
 }
 

@@ -3,7 +3,8 @@
 // What the controls of the four areas do when they are clicked, entered and left.
 #pragma once
 
-#include "workbench/application_state.h"
+#include "workbench/panel_fields.h"
+#include "workbench/window_state.h"
 
 #include <string_view>
 
@@ -19,7 +20,7 @@ void LeaveAreaButton(WindowState& window, Area area, bool tabbedForward);
 
 // A control getting the focus: the recommendation lists of its area
 // (FocusEntered), and optBasic merely getting the focus chooses Basic.
-RecommendationClears EnterControl(ApplicationState& app, std::string_view control);
+RecommendationClears EnterControl(PanelState& panel, WindowState& window, std::string_view control);
 
 // optBasic or optAdvance clicked: the piping mode it stands for; the entries of
 // the other mode are kept.
@@ -27,10 +28,10 @@ void ChoosePipingMode(PanelState& panel, bool basic);
 
 // An entry of a list chosen with the mouse or the keyboard. Choosing a number
 // of branches loads the site picture.
-void ClickList(ApplicationState& app, const PanelList& list, Long index);
+void ClickList(PanelState& panel, WindowState& window, const PanelList& list, Long index);
 
 // A list losing the focus to another control: the pump quantity loads the
 // site picture then (a click in it alone does not).
-void LeaveList(ApplicationState& app, const PanelList& list);
+void LeaveList(WindowState& window, const PanelList& list);
 
 } // namespace vesk

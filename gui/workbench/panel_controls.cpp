@@ -84,7 +84,7 @@ QComboBox* PanelControls::list(const char* controlName) {
     combo->setToolTip(QString::fromLatin1(row.toolTip));
     m_lists.push_back({&row, combo});
     connect(combo, &QComboBox::activated, this, [this, combo, &row](int index) {
-        m_context.runEvent([&] { ClickList(m_context.app, row, index); });
+        m_context.runEvent([&] { ClickList(m_context.app.panel, m_context.app.window, row, index); });
         if (row.selectionToolTip) {
             combo->setToolTip(combo->itemText(index));
         }
@@ -96,7 +96,7 @@ QComboBox* PanelControls::list(const char* controlName) {
                                 if (!MovesToAnotherControl(reason)) {
                                     return;
                                 }
-                                m_context.runEvent([&] { LeaveList(m_context.app, row); });
+                                m_context.runEvent([&] { LeaveList(m_context.app.window, row); });
                                 if (m_context.app.window.sitePictureDue) {
                                     emit sitePictureDue();
                                 }
@@ -117,7 +117,7 @@ void PanelControls::watchFocus(QWidget* control) {
     new FocusFilter(control, {[this, name] {
                                   RecommendationClears clears;
                                   m_context.runEvent([&] {
-                                      clears = EnterControl(m_context.app, toWindows1252(name));
+                                      clears = EnterControl(m_context.app.panel, m_context.app.window, toWindows1252(name));
                                   });
                                   emit controlEntered(clears.lstDispensing, clears.lstPump);
                               },
