@@ -37,6 +37,9 @@ class UserInteraction {
     // A file dialog: the full path chosen, or nothing for Cancel. Where nobody
     // can answer, Cancel.
     virtual std::optional<std::string> chooseFile(const FileDialogRequest& /*request*/) { return std::nullopt; }
+    // The help viewer opened at a topic of the help file ("Option Menu\Pumps.htm"),
+    // running on by itself. Where nobody can see it, nothing happens.
+    virtual void showHelpTopic(const std::string& /*helpFile*/, std::string_view /*topic*/) {}
 };
 
 // Shows a numbered message; a code outside the catalogue shows nothing.

@@ -43,4 +43,8 @@ std::optional<std::string> RecordingInteraction::chooseFile(const FileDialogRequ
     return chosen;
 }
 
+void RecordingInteraction::showHelpTopic(const std::string& helpFile, std::string_view topic) {
+    helpTopics.emplace_back(helpFile, topic);
+}
+
 } // namespace vesk::test

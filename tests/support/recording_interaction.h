@@ -20,12 +20,15 @@ class RecordingInteraction : public UserInteraction {
     // File dialogs are recorded, and answered from their own script in order
     // (nullopt is Cancel); with the script used up, Cancel.
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
+    // Help topics are recorded as the help file and the topic.
+    void showHelpTopic(const std::string& helpFile, std::string_view topic) override;
 
     std::vector<std::string> shown;
     std::vector<MessageIcon> icons;
     std::vector<Answer> answers;
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::optional<std::string>> chosenFiles;
+    std::vector<std::pair<std::string, std::string>> helpTopics;
 };
 
 } // namespace vesk::test
