@@ -69,7 +69,7 @@ struct PanelField {
     std::string PanelState::*text = nullptr; // the field's text, or
     std::array<std::string, 4> PanelState::*fittings = nullptr; // one of a row of fitting counts
     std::size_t fitting = 0;
-    GridPlace cell;           // where the grids list it
+    GridPlace cell{};         // where the grids list it
     int fileLine = -1;        // its line in a site file; -1 for none
     int maxLength = 0;        // characters; 0 for no limit
     FieldCheck check = FieldCheck::None;
