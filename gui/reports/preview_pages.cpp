@@ -162,7 +162,7 @@ ReportPageDialog::ReportPageDialog(ApplicationState& app, QSize chartPixels, QWi
 
     const PictureSize picSize = PicGraphSize(static_cast<Long>(chartPixels.width() * twipsPerPixel),
                                              static_cast<Long>(chartPixels.height() * twipsPerPixel));
-    const QSize picPixels(pixels(picSize.widthTwips), std::max(pixels(picSize.heightTwips), 1));
+    const QSize picPixels(std::max(pixels(picSize.widthTwips), 1), std::max(pixels(picSize.heightTwips), 1));
     const QPixmap graph = throughPic1Bmp(flowGraphPicture(app.flowChart.chart, picPixels), app.programFolder);
 
     const ReportHeads heads = LoadReportHeads(app.flowChart, app.siteProperties);

@@ -3,7 +3,6 @@
 // The main window, frmMain: the shell around the four areas and the results, and its menus.
 #include "gui/workbench/main_window.h"
 
-#include "gui/common/chart_adapter.h"
 #include "gui/common/field_filters.h"
 #include "gui/common/run_event.h"
 #include "gui/reports/preview_pages.h"
@@ -16,7 +15,6 @@
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
 
-#include <QChart>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -117,7 +115,7 @@ void MainWindow::buildMenus() {
     onTriggered(file, "mnuSaveAs", [this] { fileCommand([this] { return FileSaveAs(m_context.app, m_context.ui); }); });
     onTriggered(file, "mnuPrint", [this] { runEvent([this] { PrintReportCommand(m_context.app, m_context.ui); }); });
     onTriggered(file, "mnuPrintPreview", [this] {
-        const QSize chartPixels = flowChart().chart()->size().toSize();
+        const QSize chartPixels = findChild<QWidget*>(QStringLiteral("MSChart1"))->size();
         runEvent([&] { ShowPrintPreview(this, m_context.app, m_context.ui, chartPixels); });
     });
     onTriggered(file, "mnuExit", [this] { exitProgram(); });
