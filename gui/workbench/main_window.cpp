@@ -15,6 +15,7 @@
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -59,7 +60,14 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     applyFocusRequest();
 }
 
-MainWindow::~MainWindow() = default;
+// The focus leaves the window's controls while the window is still whole: a
+// control that loses it later, inside QWidget's destructor, would run its
+// lost-focus event on a window half taken down.
+MainWindow::~MainWindow() {
+    if (QWidget* focused = QApplication::focusWidget(); focused != nullptr && isAncestorOf(focused)) {
+        focused->clearFocus();
+    }
+}
 
 ChartAdapter& MainWindow::flowChart() const {
     return m_results->flowChart();
