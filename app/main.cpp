@@ -78,11 +78,6 @@ int main(int argc, char* argv[]) {
             endProgram);
     });
     const int status = QApplication::exec();
-    // Hidden first, while the whole window still lives: hiding a shown window
-    // moves the focus, and the controls' focus filters call into the window.
-    if (window) {
-        window->hide();
-    }
     window.reset();
     return failedStatus.value_or(status);
 }
