@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
 #include "reports/compare_table.h"
+#include "site/program_folder.h"
 #include "reports/design_comparison.h"
 #include "workbench/calculate.h"
 #include "workbench/site_file.h"
@@ -14,6 +15,7 @@
 #endif
 
 #include <CLI/CLI.hpp>
+#include <vesk_version.h>
 #include <charconv>
 #include <cstdio>
 #include <filesystem>
@@ -40,7 +42,7 @@ constexpr int exitRunTimeFailure = 3;
 enum class Output { Table, Csv, Details, Compare, Report };
 
 struct Options {
-    std::filesystem::path programFolder;
+    std::optional<std::filesystem::path> programFolder; // --dir; without it, the rule's folder
     Output output = Output::Table;
     std::string reportFile;
     std::optional<std::string> baseline;
@@ -72,7 +74,7 @@ class HelpFormatter : public CLI::Formatter {
 // Every option of the command line, registered in one place. Only one
 // output option may be given.
 void addOptions(CLI::App& cli, Options& options) {
-    cli.add_option("--dir", options.programFolder, "the program folder (default: the folder of vesk-calc)")
+    cli.add_option("--dir", options.programFolder, "the program folder (default: the one vesk itself would use)")
         ->option_text("PROGRAM_FOLDER");
     CLI::Option* site = cli.add_option("SITE_FILE", options.siteFile, "the site file opened as File > Open does");
     cli.add_option("--baseline", options.baseline,
@@ -108,9 +110,8 @@ void addOptions(CLI::App& cli, Options& options) {
 // bad usage prints the usage line and what was wrong.
 std::variant<Options, int> parseArguments(int argc, char** argv) {
     Options options;
-    options.programFolder = executableFolder();
     CLI::App cli("vesk-calc: the flows per nozzle of a fuel station's site, calculated without a window.", "vesk-calc");
-    cli.set_version_flag("--version", std::string("vesk-calc ") + VESK_VERSION);
+    cli.set_version_flag("--version", std::string("vesk-calc ") + VESK_VERSION_STRING);
     cli.formatter(std::make_shared<HelpFormatter>());
     addOptions(cli, options);
     try {
@@ -220,8 +221,8 @@ bool openSites(vesk::ApplicationState& app, const Options& options, vesk::UserIn
 int run(const Options& options) {
     StderrInteraction ui;
     vesk::ApplicationState app;
-    app.programFolder = options.programFolder;
     try {
+        app.programFolder = options.programFolder ? *options.programFolder : vesk::ProgramFolderFor(executableFolder());
         vesk::InitialiseMainWindow(app, ui);
         // The site File, Open would load; a missing or damaged file has shown
         // its message on stderr already.

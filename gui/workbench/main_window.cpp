@@ -60,13 +60,10 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     applyFocusRequest();
 }
 
-// The focus leaves the window's controls while the window is still whole: a
-// control that loses it later, inside QWidget's destructor, would run its
-// lost-focus event on a window half taken down.
+// Hidden while all of the window still lives: hiding a shown window moves the
+// focus, and the controls' focus filters call into the window's parts.
 MainWindow::~MainWindow() {
-    if (QWidget* focused = QApplication::focusWidget(); focused != nullptr && isAncestorOf(focused)) {
-        focused->clearFocus();
-    }
+    hide();
 }
 
 ChartAdapter& MainWindow::flowChart() const {

@@ -5,7 +5,7 @@
 
 #include "workbench/field_checks.h"
 #include "workbench/site_file.h"
-#include "workbench/started_app.h"
+#include "support/started_app.h"
 
 #include <gtest/gtest.h>
 

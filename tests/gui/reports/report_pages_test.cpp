@@ -5,7 +5,6 @@
 #include "gui/common/text_codec.h"
 #include "gui/reports/label_button.h"
 #include "gui/reports/preview_pages.h"
-#include "gui/support/gui_test_support.h"
 #include "gui/workbench/main_window.h"
 #include "reports/design_comparison.h"
 #include "reports/print_report.h"
@@ -204,8 +203,6 @@ class ReportPagesTest : public QObject {
         QCOMPARE(graph.height(), (400 * 15 - 1000) / 15); // the chart less 1000 twips
         const QImage written(QString::fromStdString((started.folder.path() / "pic1.bmp").string()));
         QCOMPARE(written.size(), graph.size()); // the bitmap stays in the program folder
-        page.show();
-        vesk::gui::test::saveScreenshot(&page, QStringLiteral("frmPrint"));
     }
 
     void printFieldsFalseShowsTheCaptionsWithBlankValues() {
@@ -294,8 +291,6 @@ class ReportPagesTest : public QObject {
         QCOMPARE(grid->toolTip(), QString());
         grid->setCurrentCell(7 + 3, 3);
         QCOMPARE(grid->toolTip(), QStringLiteral("8"));
-        page.show();
-        vesk::gui::test::saveScreenshot(&page, QStringLiteral("frmComponentList"));
     }
 
     void theComparePageOfAFourNozzleSiteOpenedAfterStartUpReadsPastItsTables() {
