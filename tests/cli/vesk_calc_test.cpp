@@ -336,7 +336,7 @@ TEST(VeskCalcReport, WritesTheTwoSheetsAsAPdfFile) {
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(readFile(pdf).rfind("%PDF", 0), 0U);
+    EXPECT_EQ(test::readBytes(pdf).rfind("%PDF", 0), 0U);
     FILE* pages = ::popen(("pdfinfo '" + pdf.string() + "' | grep '^Pages:'").c_str(), "r");
     ASSERT_NE(pages, nullptr);
     std::array<char, 128> line{};
