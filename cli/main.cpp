@@ -1,13 +1,21 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
-#include "engine/numeric.h"
-#include "messages/user_interaction.h"
+#include "reports/compare_table.h"
 #include "site/program_folder.h"
-#include "workbench/site_file.h"
+#include "reports/design_comparison.h"
 #include "workbench/calculate.h"
+#include "workbench/site_file.h"
 #include "workbench/startup.h"
 
+#include "engine/numeric.h"
+#include "messages/user_interaction.h"
+#ifdef VESK_CALC_REPORT
+#include "gui/reports/report_pdf.h"
+#endif
+
+#include <CLI/CLI.hpp>
+#include <vesk_version.h>
 #include <charconv>
 #include <cstdio>
 #include <filesystem>
@@ -16,19 +24,28 @@
 #include <string>
 #include <string_view>
 #include <unistd.h>
+#include <variant>
+#include <vector>
 
 namespace {
 
-constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--csv] [--details] [SITE_FILE]";
+constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--baseline BASE_SITE] [--csv | --details "
+                                   "| --compare | --report FILE.pdf] "
+                                   "[SITE_FILE]\n"
+                                   "       vesk-calc --version | --help";
 
 constexpr int exitFatalMessage = 1;
 constexpr int exitUsage = 2;
 constexpr int exitRunTimeFailure = 3;
 
+// What is printed; the readable table when no output option is given.
+enum class Output { Table, Csv, Details, Compare, Report };
+
 struct Options {
     std::optional<std::filesystem::path> programFolder; // --dir; without it, the rule's folder
-    bool csv = false;
-    bool details = false;
+    Output output = Output::Table;
+    std::string reportFile;
+    std::optional<std::string> baseline;
     std::optional<std::string> siteFile;
 };
 
@@ -44,21 +61,70 @@ std::filesystem::path executableFolder() {
     return error ? std::filesystem::current_path() : executable.parent_path();
 }
 
-std::optional<Options> parseArguments(int argc, char** argv) {
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--dir" && i + 1 < argc) {
-            options.programFolder = argv[++i];
-        } else if (argument == "--csv") {
-            options.csv = true;
-        } else if (argument == "--details") {
-            options.details = true;
-        } else if (!argument.starts_with("-") && !options.siteFile) {
-            options.siteFile = std::string(argument);
-        } else {
-            return std::nullopt;
+// The help lists each option with its value's name; the usage line above it
+// says which options go together.
+class HelpFormatter : public CLI::Formatter {
+  public:
+    std::string make_usage(const CLI::App*, std::string) const override { return {}; }
+    std::string make_option_opts(const CLI::Option* option) const override {
+        return option->get_option_text().empty() ? std::string() : " " + option->get_option_text();
+    }
+};
+
+// Every option of the command line, registered in one place. Only one
+// output option may be given.
+void addOptions(CLI::App& cli, Options& options) {
+    cli.add_option("--dir", options.programFolder, "the program folder (default: the one vesk itself would use)")
+        ->option_text("PROGRAM_FOLDER");
+    CLI::Option* site = cli.add_option("SITE_FILE", options.siteFile, "the site file opened as File > Open does");
+    cli.add_option("--baseline", options.baseline,
+                   "compare two saved designs: the Baseline from BASE_SITE, the Current from SITE_FILE")
+        ->option_text("BASE_SITE")
+        ->needs(site);
+
+    std::vector<CLI::Option*> outputs;
+    const auto output = [&](CLI::Option* option, Output chosen) {
+        option->each([&options, chosen](const std::string&) { options.output = chosen; });
+        outputs.push_back(option);
+    };
+    output(cli.add_flag("--csv")->description("nozzles,gpm_per_nozzle,lpm_per_nozzle lines of the Current flows"),
+           Output::Csv);
+    output(cli.add_flag("--details")->description("the head-loss breakdown of the details dialog, in feet"),
+           Output::Details);
+    output(cli.add_flag("--compare")
+               ->description("the compare table as the preview's second page shows it, TAB-separated"),
+           Output::Compare);
+    output(cli.add_option("--report", options.reportFile, "the printed report, written as a PDF file")
+               ->option_text("FILE.pdf"),
+           Output::Report);
+    for (CLI::Option* one : outputs) {
+        for (CLI::Option* other : outputs) {
+            if (one != other) {
+                one->excludes(other);
+            }
         }
+    }
+}
+
+// Parses the arguments; --help and --version print and give their exit code,
+// bad usage prints the usage line and what was wrong.
+std::variant<Options, int> parseArguments(int argc, char** argv) {
+    Options options;
+    CLI::App cli("vesk-calc: the flows per nozzle of a fuel station's site, calculated without a window.", "vesk-calc");
+    cli.set_version_flag("--version", std::string("vesk-calc ") + VESK_VERSION_STRING);
+    cli.formatter(std::make_shared<HelpFormatter>());
+    addOptions(cli, options);
+    try {
+        cli.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::cout << usage << "\n\n" << cli.help("", CLI::AppFormatMode::All);
+        return 0;
+    } catch (const CLI::CallForVersion& version) {
+        std::cout << version.what() << '\n';
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        std::cerr << usage << '\n' << "vesk-calc: " << error.what() << '\n';
+        return exitUsage;
     }
     return options;
 }
@@ -113,6 +179,45 @@ void printDetails(vesk::ApplicationState& app) {
     }
 }
 
+// The compare table from its row of heads on, one line per row, the cells
+// joined by one TAB, each text as the grid holds it.
+void printCompare(vesk::ApplicationState& app) {
+    const bool optUS = vesk::TouchFrmData(app.panel, app.config).optUS;
+    const vesk::SheetGrid grid =
+        vesk::LoadCompareGrid(app.results.Current, app.results.Baseline, app.NoOfNozzles, optUS);
+    std::string text;
+    for (long row = 2; row < grid.Rows(); ++row) {
+        for (long column = 0; column < grid.Cols(); ++column) {
+            text += (column == 0 ? "" : "\t") + grid.TextMatrix(row, column);
+        }
+        text += '\n';
+    }
+    std::cout << text; // composed whole first: a failure prints nothing
+}
+
+void writeReport([[maybe_unused]] vesk::ApplicationState& app, [[maybe_unused]] const std::string& file) {
+#ifdef VESK_CALC_REPORT
+    vesk::gui::WriteReportPdf(app, std::filesystem::absolute(file).string());
+#else
+    std::cerr << "vesk-calc: this build has no report writer (built without the desktop program)\n";
+    throw vesk::ProcessEnd(0);
+#endif
+}
+
+// The site File > Open loads; with a Baseline site, that one first and then
+// the site kept beside it. A missing or damaged file has shown its message.
+bool openSites(vesk::ApplicationState& app, const Options& options, vesk::UserInteraction& ui) {
+    if (!options.siteFile) {
+        return true;
+    }
+    const std::string site = std::filesystem::absolute(*options.siteFile).string();
+    if (!options.baseline) {
+        return vesk::OpenSiteFile(app, site, ui);
+    }
+    return vesk::OpenSiteFile(app, std::filesystem::absolute(*options.baseline).string(), ui) &&
+           vesk::OpenSiteKeepingBaseline(app, site, ui);
+}
+
 int run(const Options& options) {
     StderrInteraction ui;
     vesk::ApplicationState app;
@@ -121,15 +226,25 @@ int run(const Options& options) {
         vesk::InitialiseMainWindow(app, ui);
         // The site File, Open would load; a missing or damaged file has shown
         // its message on stderr already.
-        if (options.siteFile && !vesk::OpenSiteFile(app, std::filesystem::absolute(*options.siteFile).string(), ui)) {
+        if (!openSites(app, options, ui)) {
             return exitFatalMessage;
         }
-        if (options.details) {
+        switch (options.output) {
+        case Output::Details:
             printDetails(app);
-        } else if (options.csv) {
+            break;
+        case Output::Csv:
             printCsv(app.results.Current);
-        } else {
+            break;
+        case Output::Compare:
+            printCompare(app);
+            break;
+        case Output::Report:
+            writeReport(app, options.reportFile);
+            break;
+        case Output::Table:
             printTable(app);
+            break;
         }
     } catch (const vesk::ProcessEnd&) {
         return exitFatalMessage; // its message is already on stderr
@@ -143,10 +258,9 @@ int run(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::optional<Options> options = parseArguments(argc, argv);
-    if (!options) {
-        std::cerr << usage << '\n';
-        return exitUsage;
+    const std::variant<Options, int> parsed = parseArguments(argc, argv);
+    if (const int* exitCode = std::get_if<int>(&parsed)) {
+        return *exitCode;
     }
-    return run(*options);
+    return run(std::get<Options>(parsed));
 }

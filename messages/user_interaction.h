@@ -22,6 +22,14 @@ struct FileDialogRequest {
     std::string fileName;    // the name the dialog starts with
 };
 
+// What the printer dialog gives back: the printer chosen, or the file that a
+// "print to file" printer writes (a PDF), and the number of copies.
+struct PrinterChoice {
+    std::string printerName; // empty: the system's default printer
+    std::string outputFile;  // not empty: the sheets go to this PDF file
+    int copies = 1;
+};
+
 // Every modal box of the system goes through this interface: the desktop
 // program shows real boxes, the command-line calculator writes to stderr, and
 // tests record what was shown and script the answers.
@@ -37,6 +45,9 @@ class UserInteraction {
     // A file dialog: the full path chosen, or nothing for Cancel. Where nobody
     // can answer, Cancel.
     virtual std::optional<std::string> chooseFile(const FileDialogRequest& /*request*/) { return std::nullopt; }
+    // The printer dialog: the printer chosen, or nothing for Cancel. Where
+    // nobody can answer, Cancel.
+    virtual std::optional<PrinterChoice> choosePrinter() { return std::nullopt; }
     // The help viewer opened at a topic of the help file ("Option Menu\Pumps.htm"),
     // running on by itself. Where nobody can see it, nothing happens.
     virtual void showHelpTopic(const std::string& /*helpFile*/, std::string_view /*topic*/) {}

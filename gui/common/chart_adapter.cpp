@@ -3,6 +3,8 @@
 // The one place where the system's line charts meet Qt Charts: gaps and marker shapes.
 #include "gui/common/chart_adapter.h"
 
+#include "gui/common/text_codec.h"
+
 #include <QBrush>
 #include <QCategoryAxis>
 #include <QChart>
@@ -45,6 +47,53 @@ QChartView* MakeChartView(const char* name, ChartAdapter*& adapter, QObject* own
 
 QColor toQColor(const Rgb& colour) {
     return QColor(colour.red, colour.green, colour.blue);
+}
+
+void ShowFlowChart(ChartAdapter& adapter, const FlowChart& chart,
+                   const std::array<QColor, ChartAdapter::columnCount>& uncoloured) {
+    ChartRows rows;
+    rows.title = QString::fromLatin1(flowChartXTitle);
+    for (const std::string& label : chart.rowLabels) {
+        rows.labels.append(fromWindows1252(label));
+    }
+    rows.firstX = 1;
+    rows.minimum = 0.5;
+    rows.maximum = static_cast<qreal>(chart.rowLabels.size()) + 0.5;
+    adapter.setRows(rows);
+    adapter.setValueAxis({fromWindows1252(chart.yTitle), chart.yMaximum, static_cast<qreal>(chart.yDivisionsPerLabel)});
+    for (int column = 0; column < ChartAdapter::columnCount; ++column) {
+        const auto index = static_cast<std::size_t>(column);
+        const SeriesLook& look = chart.series[index];
+        ChartColumn series;
+        series.values = chart.cells[index];
+        series.marker = look.marker;
+        series.markerSize = look.markerSize / twipsPerPixel;
+        series.markerFill = toQColor(look.markerFill);
+        series.colour = look.colour ? toQColor(*look.colour) : uncoloured[index];
+        adapter.setColumn(column, series);
+    }
+}
+
+void ShowPumpCurve(ChartAdapter& adapter, const PumpCurveChart& curve) {
+    adapter.setTitle(fromWindows1252(curve.title));
+    ChartRows rows;
+    rows.title = fromWindows1252(curve.xTitle);
+    for (const std::string& label : curve.rowLabels) {
+        rows.labels.append(fromWindows1252(label));
+    }
+    rows.firstX = 0;
+    rows.labelEvery = curve.xDivisions;
+    rows.minimum = curve.xMinimum.value_or(0);
+    rows.maximum = curve.xMaximum;
+    adapter.setRows(rows);
+    adapter.setValueAxis({fromWindows1252(curve.yTitle), curve.yMaximum, static_cast<qreal>(curve.yDivisions)});
+    ChartColumn series;
+    series.values.reserve(curve.points.size());
+    for (const Single head : curve.points) {
+        series.values.push_back(head == -1 ? std::nullopt : std::optional<Single>(head));
+    }
+    series.colour = QColor(0, 0, 160);
+    adapter.setColumn(0, series);
 }
 
 ChartAdapter::ChartAdapter(QChart* chart, QObject* parent)

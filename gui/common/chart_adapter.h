@@ -4,6 +4,7 @@
 #pragma once
 
 #include "workbench/flow_chart.h"
+#include "workbench/pump_curve.h"
 
 #include <QColor>
 #include <QList>
@@ -107,5 +108,17 @@ QChartView* MakeChartView(const char* name, ChartAdapter*& adapter, QObject* own
 
 // A colour of the core as Qt's.
 QColor toQColor(const Rgb& colour);
+
+// The screen's units of the system: 15 twips to a pixel.
+inline constexpr qreal twipsPerPixel = 15;
+
+// Shows the Dynamic Flow Graph as the core holds it: rows, value axis and both
+// columns with their markers. A series without a colour of its own takes its
+// colour from `uncoloured` (series 1, series 2).
+void ShowFlowChart(ChartAdapter& adapter, const FlowChart& chart,
+                   const std::array<QColor, ChartAdapter::columnCount>& uncoloured = {Qt::darkGray, Qt::darkGray});
+
+// Shows a pump performance curve as the core holds it, title included.
+void ShowPumpCurve(ChartAdapter& adapter, const PumpCurveChart& curve);
 
 } // namespace vesk::gui

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QStringList>
 
 namespace vesk::gui {
@@ -81,6 +83,22 @@ std::optional<std::string> QtUserInteraction::chooseFile(const FileDialogRequest
         return std::string();
     }
     return QFile::encodeName(chosen.front()).toStdString();
+}
+
+std::optional<PrinterChoice> QtUserInteraction::choosePrinter() {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, m_parent);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt; // Cancel, Escape or the close box
+    }
+    PrinterChoice choice;
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        choice.outputFile = QFile::encodeName(printer.outputFileName()).toStdString();
+    } else {
+        choice.printerName = printer.printerName().toStdString();
+    }
+    choice.copies = printer.copyCount();
+    return choice;
 }
 
 } // namespace vesk::gui

@@ -34,6 +34,8 @@ class QtUserInteraction : public UserInteraction {
     Answer askYesNoCancel(std::string_view text) override;
     Answer askYesNo(std::string_view text) override;
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
+    // The printer dialog, QPrintDialog: a printer or a PDF file, or nothing for Cancel.
+    std::optional<PrinterChoice> choosePrinter() override;
 
     // The window the boxes stand over; may change when the main window opens.
     void setParentWindow(QWidget* parent) { m_parent = parent; }

@@ -5,6 +5,7 @@
 
 #include "gui/common/field_filters.h"
 #include "gui/common/run_event.h"
+#include "gui/reports/preview_pages.h"
 #include "gui/workbench/area_widgets.h"
 #include "gui/workbench/areas.h"
 #include "gui/workbench/dialogs.h"
@@ -14,6 +15,7 @@
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -48,9 +50,8 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     });
     connect(m_controls, &PanelControls::sitePictureDue, this, [this] { runEvent([this] { loadDueSitePicture(); }); });
     connect(m_results, &ResultsPanel::panelsRestored, this, &MainWindow::refreshAll);
-    connect(m_results, &ResultsPanel::tabbedPastTheGrids, this, [this] {
-        findChild<QPushButton*>(QString::fromLatin1(areas[0].button))->setFocus(Qt::OtherFocusReason);
-    });
+    connect(m_results, &ResultsPanel::tabbedPastTheGrids, this,
+            [this] { findChild<QPushButton*>(QString::fromLatin1(areas[0].button))->setFocus(Qt::OtherFocusReason); });
 
     // As the window is made, a site picture that cannot be loaded fails out of
     // the constructor.
@@ -117,6 +118,11 @@ void MainWindow::buildMenus() {
     onTriggered(file, "mnuOpen", [this] { fileCommand([this] { return FileOpen(m_context.app, m_context.ui); }); });
     onTriggered(file, "mnuSave", [this] { fileCommand([this] { return FileSave(m_context.app); }); });
     onTriggered(file, "mnuSaveAs", [this] { fileCommand([this] { return FileSaveAs(m_context.app, m_context.ui); }); });
+    onTriggered(file, "mnuPrint", [this] { runEvent([this] { PrintReportCommand(m_context.app, m_context.ui); }); });
+    onTriggered(file, "mnuPrintPreview", [this] {
+        const QSize chartPixels = findChild<QWidget*>(QStringLiteral("MSChart1"))->size();
+        runEvent([&] { ShowPrintPreview(this, m_context.app, m_context.ui, chartPixels); });
+    });
     onTriggered(file, "mnuExit", [this] { exitProgram(); });
     onTriggered(options, "mnuSiteProperties", [this] { siteProperties(); });
     onTriggered(options, "mnuSystemSettings", [this] { systemSettings(); });

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The Pump Area: the pump, its frequency and quantity, the leak detector, others, and the pump curve.
-#include "gui/workbench/areas.h"
-
 #include "gui/common/chart_adapter.h"
+#include "gui/reports/preview_pages.h"
 #include "gui/workbench/area_widgets.h"
+#include "gui/workbench/areas.h"
 #include "workbench/pump_curve.h"
 
 #include <QChartView>
@@ -19,8 +19,7 @@
 namespace vesk::gui {
 
 PumpArea::PumpArea(WindowContext& context, PanelControls& controls)
-    : m_context(context), m_controls(controls),
-      m_opt50Hz(named(new QRadioButton(QStringLiteral("50 Hz")), "opt50Hz")),
+    : m_context(context), m_controls(controls), m_opt50Hz(named(new QRadioButton(QStringLiteral("50 Hz")), "opt50Hz")),
       m_opt60Hz(named(new QRadioButton(QStringLiteral("60 Hz")), "opt60Hz")),
       m_msChart2(MakeChartView("MSChart2", m_pumpCurveChart, this)), m_lstPump(named(new QListWidget, "lstPump")) {
     nameAreaFrame(*this, Area::Pump);
@@ -65,6 +64,8 @@ PumpArea::PumpArea(WindowContext& context, PanelControls& controls)
     auto* cmdUpdate = named(new QPushButton(QStringLiteral("Update Graph")), "cmdUpdate");
     auto* cmdPrintPump = named(new QPushButton(QStringLiteral("Print")), "cmdPrintPump");
     connect(cmdUpdate, &QPushButton::clicked, this, &PumpArea::updatePumpCurve);
+    connect(cmdPrintPump, &QPushButton::clicked, this,
+            [this] { m_context.runEvent([this] { PrintPumpCurveCommand(m_context.app, m_context.ui); }); });
     auto* curveButtons = new QHBoxLayout;
     curveButtons->addWidget(lblPumpCurve, 1);
     curveButtons->addWidget(cmdUpdate);
@@ -92,26 +93,7 @@ void PumpArea::updatePumpCurve() {
 }
 
 void PumpArea::refreshPumpCurve() {
-    const PumpCurveChart& curve = m_context.app.pumpCurve;
-    m_pumpCurveChart->setTitle(qs(curve.title));
-    ChartRows rows;
-    rows.title = qs(curve.xTitle);
-    for (const std::string& label : curve.rowLabels) {
-        rows.labels.append(qs(label));
-    }
-    rows.firstX = 0;
-    rows.labelEvery = curve.xDivisions;
-    rows.minimum = curve.xMinimum.value_or(0);
-    rows.maximum = curve.xMaximum;
-    m_pumpCurveChart->setRows(rows);
-    m_pumpCurveChart->setValueAxis({qs(curve.yTitle), curve.yMaximum, static_cast<qreal>(curve.yDivisions)});
-    ChartColumn series;
-    series.values.reserve(curve.points.size());
-    for (const Single head : curve.points) {
-        series.values.push_back(head == -1 ? std::nullopt : std::optional<Single>(head));
-    }
-    series.colour = QColor(0, 0, 160);
-    m_pumpCurveChart->setColumn(0, series);
+    ShowPumpCurve(*m_pumpCurveChart, m_context.app.pumpCurve);
 }
 
 } // namespace vesk::gui

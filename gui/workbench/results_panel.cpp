@@ -27,8 +27,6 @@ namespace vesk::gui {
 
 namespace {
 
-// The screen's units of the system: 15 twips to a pixel.
-constexpr qreal twipsPerPixel = 15;
 // The grids' width at design, from which their column widths are set.
 constexpr Double gridDesignWidthTwips = 9000;
 
@@ -36,10 +34,6 @@ QColor gridColour(std::uint32_t colour) {
     // The grids hold colours as the platform does: blue in the high byte.
     return QColor(static_cast<int>(colour & 0xFF), static_cast<int>((colour >> 8) & 0xFF),
                   static_cast<int>((colour >> 16) & 0xFF));
-}
-
-QColor seriesColour(const std::optional<Rgb>& colour) {
-    return colour ? toQColor(*colour) : QColor(Qt::darkGray);
 }
 
 void showGrid(QTableWidget* table, const ResultGrid& grid) {
@@ -145,27 +139,7 @@ void ResultsPanel::connectTabKeys() {
 }
 
 void ResultsPanel::refreshFlowChart() {
-    const FlowChart& chart = m_context.app.flowChart.chart;
-    ChartRows rows;
-    rows.title = QString::fromLatin1(flowChartXTitle);
-    for (const std::string& label : chart.rowLabels) {
-        rows.labels.append(qs(label));
-    }
-    rows.firstX = 1;
-    rows.minimum = 0.5;
-    rows.maximum = static_cast<qreal>(chart.rowLabels.size()) + 0.5;
-    m_flowChart->setRows(rows);
-    m_flowChart->setValueAxis({qs(chart.yTitle), chart.yMaximum, static_cast<qreal>(chart.yDivisionsPerLabel)});
-    for (int column = 0; column < ChartAdapter::columnCount; ++column) {
-        const SeriesLook& look = chart.series[static_cast<std::size_t>(column)];
-        ChartColumn series;
-        series.values = chart.cells[static_cast<std::size_t>(column)];
-        series.marker = look.marker;
-        series.markerSize = look.markerSize / twipsPerPixel;
-        series.markerFill = toQColor(look.markerFill);
-        series.colour = seriesColour(look.colour);
-        m_flowChart->setColumn(column, series);
-    }
+    ShowFlowChart(*m_flowChart, m_context.app.flowChart.chart);
 }
 
 void ResultsPanel::refreshLegend() {

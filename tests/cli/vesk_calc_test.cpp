@@ -261,3 +261,104 @@ TEST(VeskCalc, AMissingSiteFilePrintsFileDoesntExistsAndExits1) {
 
 } // namespace
 } // namespace vesk
+
+namespace vesk {
+namespace {
+
+TEST(VeskCalcOptions, VersionPrintsTheProjectVersion) {
+    const CalcRun run = runCalc("--version");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out, std::string("vesk-calc ") + VESK_VERSION + "\n");
+}
+
+TEST(VeskCalcOptions, HelpListsEveryOption) {
+    const CalcRun run = runCalc("--help");
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out.rfind("usage: vesk-calc", 0), 0U);
+    for (const char* option : {"--dir", "--baseline", "--csv", "--details", "--compare", "--report", "--version"}) {
+        EXPECT_NE(run.out.find(option), std::string::npos) << option;
+    }
+}
+
+struct BadUsage {
+    const char* arguments;
+    const char* says;
+};
+
+class VeskCalcBadUsage : public testing::TestWithParam<BadUsage> {};
+
+TEST_P(VeskCalcBadUsage, PrintsTheUsageLineAndWhatWasWrong) {
+    const CalcRun run = runCalc(GetParam().arguments);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err.rfind("usage: vesk-calc", 0), 0U) << run.err;
+    EXPECT_NE(run.err.find(GetParam().says), std::string::npos) << run.err;
+    EXPECT_EQ(run.out, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(VeskCalcOptions, VeskCalcBadUsage,
+                         testing::Values(BadUsage{"--bogus", "--bogus"}, BadUsage{"--csv --compare", "excludes"},
+                                         BadUsage{"--details --report a.pdf", "excludes"},
+                                         BadUsage{"--baseline a.txt", "SITE_FILE"}, BadUsage{"--report", "--report"}));
+
+TEST(VeskCalcCompare, TheCompareTableOfAnOpenedSiteMatchesItsGoldenFile) {
+    const CalcRun run = runCalc("--compare " + shippedDir() + " " + shippedSite("SmallGasStation.txt"));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("site_small_gas_station_compare.tsv"));
+}
+
+TEST(VeskCalcCompare, TwoSavedDesignsSideBySideMatchTheirGoldenFile) {
+    const CalcRun run = runCalc("--compare " + shippedDir() + " --baseline " + shippedSite("SmallGasStation.txt") +
+                                " " + shippedSite("MetricStation.txt"));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, golden("baseline_small_gas_current_metric_compare.tsv"));
+}
+
+TEST(VeskCalcCompare, AFourNozzleSiteAfterStartUpReadsPastItsTables) {
+    // NoOfNozzles stays 8 from start-up; the tables of the opened site have 6 rows.
+    const CalcRun run = runCalc("--compare " + shippedDir() + " " + shippedSite("BasicModeSite.txt"));
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, "Run-time error: Subscript out of range\n");
+    EXPECT_EQ(run.out, "");
+}
+
+TEST(VeskCalcCompare, AMissingBaselineSitePrintsItsMessageAndExits1) {
+    const CalcRun run =
+        runCalc("--compare " + shippedDir() + " --baseline nowhere.txt " + shippedSite("SmallGasStation.txt"));
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_NE(run.err, "");
+}
+
+TEST(VeskCalcReport, WritesTheTwoSheetsAsAPdfFile) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    const auto pdf = folder.path() / "report.pdf";
+    const CalcRun run = runCalc("--report '" + pdf.string() + "' " + dirOf(folder) + " --baseline " +
+                                shippedSite("SmallGasStation.txt") + " " + shippedSite("MetricStation.txt"));
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(test::readBytes(pdf).rfind("%PDF", 0), 0U);
+    FILE* pages = ::popen(("pdfinfo '" + pdf.string() + "' | grep '^Pages:'").c_str(), "r");
+    ASSERT_NE(pages, nullptr);
+    std::array<char, 128> line{};
+    const std::string text = std::fgets(line.data(), line.size(), pages) != nullptr ? line.data() : "";
+    ::pclose(pages);
+    EXPECT_EQ(text, "Pages:           2\n");
+}
+
+TEST(VeskCalcReport, AFileThatCannotBeWrittenIsARunTimeFailure) {
+    const CalcRun run = runCalc("--report /nonexistent-folder/report.pdf " + shippedDir());
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, "Run-time error: Path/File access error\n");
+}
+
+TEST(VeskCalcReport, TheTrapOfAFourNozzleSiteLeavesNoFile) {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    const auto pdf = folder.path() / "report.pdf";
+    const CalcRun run =
+        runCalc("--report '" + pdf.string() + "' " + dirOf(folder) + " " + shippedSite("BasicModeSite.txt"));
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_FALSE(std::filesystem::exists(pdf));
+}
+
+} // namespace
+} // namespace vesk

@@ -43,6 +43,16 @@ std::optional<std::string> RecordingInteraction::chooseFile(const FileDialogRequ
     return chosen;
 }
 
+std::optional<PrinterChoice> RecordingInteraction::choosePrinter() {
+    ++printerDialogs;
+    if (chosenPrinters.empty()) {
+        return std::nullopt;
+    }
+    std::optional<PrinterChoice> chosen = chosenPrinters.front();
+    chosenPrinters.erase(chosenPrinters.begin());
+    return chosen;
+}
+
 void RecordingInteraction::showHelpTopic(const std::string& helpFile, std::string_view topic) {
     helpTopics.emplace_back(helpFile, topic);
 }

@@ -20,6 +20,9 @@ class RecordingInteraction : public UserInteraction {
     // File dialogs are recorded, and answered from their own script in order
     // (nullopt is Cancel); with the script used up, Cancel.
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
+    // Printer dialogs are counted, and answered from their own script in
+    // order (nullopt is Cancel); with the script used up, Cancel.
+    std::optional<PrinterChoice> choosePrinter() override;
     // Help topics are recorded as the help file and the topic.
     void showHelpTopic(const std::string& helpFile, std::string_view topic) override;
 
@@ -29,6 +32,8 @@ class RecordingInteraction : public UserInteraction {
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::optional<std::string>> chosenFiles;
     std::vector<std::pair<std::string, std::string>> helpTopics;
+    int printerDialogs = 0;
+    std::vector<std::optional<PrinterChoice>> chosenPrinters;
 };
 
 } // namespace vesk::test
