@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
+#include "cli/update_command.h"
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
 #include "workbench/site_file.h"
@@ -18,7 +19,8 @@
 
 namespace {
 
-constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--csv] [--details] [SITE_FILE]";
+constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--csv] [--details] [SITE_FILE]\n"
+                                   "       vesk-calc [--dir PROGRAM_FOLDER] --update NEW_DATA_FILE";
 
 constexpr int exitFatalMessage = 1;
 constexpr int exitUsage = 2;
@@ -29,6 +31,7 @@ struct Options {
     bool csv = false;
     bool details = false;
     std::optional<std::string> siteFile;
+    std::optional<std::string> updateFile; // --update, which takes no other option but --dir
 };
 
 // Every box the system shows goes to stderr; nothing waits for an answer.
@@ -54,11 +57,16 @@ std::optional<Options> parseArguments(int argc, char** argv) {
             options.csv = true;
         } else if (argument == "--details") {
             options.details = true;
+        } else if (argument == "--update" && i + 1 < argc && !options.updateFile) {
+            options.updateFile = argv[++i];
         } else if (!argument.starts_with("-") && !options.siteFile) {
             options.siteFile = std::string(argument);
         } else {
             return std::nullopt;
         }
+    }
+    if (options.updateFile && (options.csv || options.details || options.siteFile)) {
+        return std::nullopt;
     }
     return options;
 }
@@ -147,6 +155,9 @@ int main(int argc, char** argv) {
     if (!options) {
         std::cerr << usage << '\n';
         return exitUsage;
+    }
+    if (options->updateFile) {
+        return vesk::cli::RunUpdateCommand(options->programFolder, *options->updateFile, std::cerr);
     }
     return run(*options);
 }
