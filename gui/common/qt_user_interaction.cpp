@@ -10,6 +10,16 @@
 #include <QMessageBox>
 #include <QStringList>
 
+#ifdef _WIN32
+// htmlhelp.h needs the types of windows.h first.
+#include <windows.h>
+// clang-format off
+#include <htmlhelp.h>
+// clang-format on
+#else
+#include "gui/common/help_viewer.h"
+#endif
+
 namespace vesk::gui {
 
 namespace {
@@ -81,6 +91,17 @@ std::optional<std::string> QtUserInteraction::chooseFile(const FileDialogRequest
         return std::string();
     }
     return QFile::encodeName(chosen.front()).toStdString();
+}
+
+// The viewer runs on by itself; nothing waits for it, and a failure of it is
+// not reported.
+void QtUserInteraction::showHelpTopic(const std::string& helpFile, std::string_view topic) {
+#ifdef _WIN32
+    const std::string topicText(topic);
+    HtmlHelpA(nullptr, helpFile.c_str(), HH_DISPLAY_TOPIC, reinterpret_cast<DWORD_PTR>(topicText.c_str()));
+#else
+    HelpViewer::showTopic(std::filesystem::path(helpFile), topic);
+#endif
 }
 
 } // namespace vesk::gui

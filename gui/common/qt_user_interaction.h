@@ -34,6 +34,8 @@ class QtUserInteraction : public UserInteraction {
     Answer askYesNoCancel(std::string_view text) override;
     Answer askYesNo(std::string_view text) override;
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
+    // On Windows the system's help viewer; elsewhere our own (HelpViewer).
+    void showHelpTopic(const std::string& helpFile, std::string_view topic) override;
 
     // The window the boxes stand over; may change when the main window opens.
     void setParentWindow(QWidget* parent) { m_parent = parent; }
