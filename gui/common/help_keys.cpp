@@ -36,7 +36,11 @@ bool HelpKeys::eventFilter(QObject* watched, QEvent* event) {
     if (widget == nullptr || m_mainWindow.isNull()) {
         return false;
     }
+    // A list dropped open is a window of its own; its form is the one under it.
     const QWidget* form = widget->window();
+    while (form->windowType() == Qt::Popup && form->parentWidget() != nullptr) {
+        form = form->parentWidget()->window();
+    }
     if (!ownedByMainWindow(form)) {
         return false;
     }
