@@ -6,13 +6,40 @@
 #include "gui/common/qt_user_interaction.h"
 #include "gui/workbench/splash_window.h"
 
+#include "site/program_folder.h"
 #include "workbench/application_state.h"
 #include "workbench/startup.h"
 
 #include <QApplication>
+#include <QTimer>
+#include <QWindow>
 #include <filesystem>
+#include <iostream>
 #include <memory>
 #include <optional>
+
+namespace {
+
+// For the check of an installed program, which has no test harness around it:
+// with VESK_QUIT_WHEN_SHOWN set, once the platform has put the main window on
+// the screen the program prints its caption (the program folder's
+// SaveSiteInfo/Default.txt) and ends with status 0.
+void quitOnceShownIfAsked(QWidget& window) {
+    if (!qEnvironmentVariableIsSet("VESK_QUIT_WHEN_SHOWN")) {
+        return;
+    }
+    auto* poll = new QTimer(&window);
+    QObject::connect(poll, &QTimer::timeout, &window, [&window, poll] {
+        if (window.windowHandle() != nullptr && window.windowHandle()->isExposed()) {
+            poll->stop();
+            std::cout << "Vesk main window shown: " << window.windowTitle().toStdString() << std::endl;
+            vesk::gui::QuitEventLoop(0);
+        }
+    });
+    poll->start(10);
+}
+
+} // namespace
 
 // Numbers never pass through the C locale here: the core parses and formats
 // them with std::from_chars and std::to_chars, so this program sets no locale
@@ -20,6 +47,8 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     application.setApplicationName(QStringLiteral("Vesk"));
+    // The desktop entry's id, so that Wayland matches the window to the entry.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.vesk.Vesk"));
 
     vesk::gui::QtUserInteraction ui(nullptr);
     std::unique_ptr<vesk::ApplicationState> app;
@@ -37,13 +66,14 @@ int main(int argc, char* argv[]) {
             ui,
             [&] {
                 app = std::make_unique<vesk::ApplicationState>();
-                // The program folder is the executable's folder.
-                app->programFolder = std::filesystem::path(QCoreApplication::applicationDirPath().toStdU16String());
+                app->programFolder = vesk::ProgramFolderFor(
+                    std::filesystem::path(QCoreApplication::applicationDirPath().toStdU16String()));
                 vesk::InitialiseMainWindow(*app, ui);
                 window = std::make_unique<vesk::gui::MainWindow>(*app, ui);
                 window->setProgramEnd(endProgram);
                 ui.setParentWindow(window.get());
                 window->show();
+                quitOnceShownIfAsked(*window);
             },
             endProgram);
     });

@@ -4,6 +4,7 @@
 #include "cli/update_command.h"
 #include "engine/numeric.h"
 #include "messages/user_interaction.h"
+#include "site/program_folder.h"
 #include "workbench/site_file.h"
 #include "workbench/calculate.h"
 #include "workbench/startup.h"
@@ -27,7 +28,7 @@ constexpr int exitUsage = 2;
 constexpr int exitRunTimeFailure = 3;
 
 struct Options {
-    std::filesystem::path programFolder;
+    std::optional<std::filesystem::path> programFolder; // --dir; without it, the rule's folder
     bool csv = false;
     bool details = false;
     std::optional<std::string> siteFile;
@@ -48,7 +49,6 @@ std::filesystem::path executableFolder() {
 
 std::optional<Options> parseArguments(int argc, char** argv) {
     Options options;
-    options.programFolder = executableFolder();
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
         if (argument == "--dir" && i + 1 < argc) {
@@ -124,8 +124,8 @@ void printDetails(vesk::ApplicationState& app) {
 int run(const Options& options) {
     StderrInteraction ui;
     vesk::ApplicationState app;
-    app.programFolder = options.programFolder;
     try {
+        app.programFolder = options.programFolder ? *options.programFolder : vesk::ProgramFolderFor(executableFolder());
         vesk::InitialiseMainWindow(app, ui);
         // The site File, Open would load; a missing or damaged file has shown
         // its message on stderr already.
@@ -157,7 +157,10 @@ int main(int argc, char** argv) {
         return exitUsage;
     }
     if (options->updateFile) {
-        return vesk::cli::RunUpdateCommand(options->programFolder, *options->updateFile, std::cerr);
+        const auto programFolder = [&options] {
+            return options->programFolder ? *options->programFolder : vesk::ProgramFolderFor(executableFolder());
+        };
+        return vesk::cli::RunUpdateCommand(programFolder, *options->updateFile, std::cerr);
     }
     return run(*options);
 }

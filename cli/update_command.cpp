@@ -27,10 +27,11 @@ constexpr int exitRunTimeFailure = 3;
 
 } // namespace
 
-int RunUpdateCommand(const std::filesystem::path& programFolder, const std::string& newDataFile, std::ostream& err) {
+int RunUpdateCommand(const std::function<std::filesystem::path()>& programFolder, const std::string& newDataFile,
+                     std::ostream& err) {
     AnsweringYes ui(err);
     try {
-        return UpdateStandardData(programFolder, newDataFile, ui) == UpdateEnd::Merged ? exitWritten : exitMessage;
+        return UpdateStandardData(programFolder(), newDataFile, ui) == UpdateEnd::Merged ? exitWritten : exitMessage;
     } catch (const RunTimeFailure& failure) {
         err << "Run-time error: " << failure.what() << '\n';
         return exitRunTimeFailure;

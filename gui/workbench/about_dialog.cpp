@@ -4,6 +4,7 @@
 #include "gui/workbench/about_dialog.h"
 
 #include "gui/workbench/dialogs.h"
+#include "vesk_version.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -62,7 +62,11 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     applyFocusRequest();
 }
 
-MainWindow::~MainWindow() = default;
+// Hidden while all of the window still lives: hiding a shown window moves the
+// focus, and the controls' focus filters call into the window's parts.
+MainWindow::~MainWindow() {
+    hide();
+}
 
 ChartAdapter& MainWindow::flowChart() const {
     return m_results->flowChart();

@@ -13,6 +13,7 @@
 namespace vesk {
 namespace {
 
+using test::readBytes;
 using test::TempProgramFolder;
 
 struct CalcRun {
@@ -20,13 +21,6 @@ struct CalcRun {
     std::string err;
     int exitCode = -1;
 };
-
-std::string readFile(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 // Runs vesk-calc with the arguments, catching stdout and stderr apart; in
 // `workingFolder` when one is given.
@@ -47,13 +41,13 @@ CalcRun runCalc(const std::string& arguments, const std::filesystem::path& worki
     }
     const int status = ::pclose(pipe);
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    run.err = readFile(errFile);
+    run.err = readBytes(errFile);
     std::filesystem::remove(errFile);
     return run;
 }
 
 std::string golden(const char* name) {
-    return readFile(std::filesystem::path(VESK_CLI_GOLDEN_DIR) / name);
+    return readBytes(std::filesystem::path(VESK_CLI_GOLDEN_DIR) / name);
 }
 
 std::string dirOf(const TempProgramFolder& folder) {

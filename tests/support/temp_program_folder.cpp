@@ -56,11 +56,21 @@ void TempProgramFolder::writeLines(std::string_view relative, std::initializer_l
     write(relative, crlfLines(lines));
 }
 
-std::string TempProgramFolder::read(std::string_view relative) const {
-    std::ifstream in(m_path / relative, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
+std::string TempProgramFolder::read(std::string_view relative) const { return readBytes(m_path / relative); }
+
+std::string readBytes(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+std::map<std::string, std::string> filesIn(const fs::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        files[entry.path().filename().string()] = readBytes(entry.path());
+    }
+    return files;
 }
 
 void TempProgramFolder::remove(std::string_view relative) const { fs::remove(m_path / relative); }

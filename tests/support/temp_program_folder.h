@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,11 @@ class TempProgramFolder {
   private:
     std::filesystem::path m_path;
 };
+
+// The bytes of a file, exactly as stored.
+std::string readBytes(const std::filesystem::path& file);
+// Every file of a folder with its bytes, by name: what a command may have written.
+std::map<std::string, std::string> filesIn(const std::filesystem::path& folder);
 
 // Joins lines, each ended by CR LF.
 std::string crlfLines(std::initializer_list<std::string_view> lines);

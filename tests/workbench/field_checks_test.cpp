@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The key filters and lost-focus checks of the fields, and the way out.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "workbench/field_checks.h"
 #include "workbench/file_commands.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // File, New, Open, Save and Save As: their dialogs, their questions and what each branch leaves.
 #include "panel_view.h"
-#include "started_app.h"
+#include "support/started_app.h"
 #include "support/failure_of.h"
 
 #include "catalogue/text_lines.h"
@@ -27,6 +27,8 @@ using test::join;
 using test::panelState;
 using test::start;
 using test::Started;
+using test::filesIn;
+using test::readBytes;
 using test::TempProgramFolder;
 
 namespace fs = std::filesystem;
@@ -35,22 +37,6 @@ constexpr const char* notSaved = "Current Values are not saved. Do you want to s
 constexpr const char* message10 = "Error in File Load";
 constexpr const char* message11 = "File doesn't exists";
 constexpr const char* newNameTaken = "File already exists. Please enter a new filename";
-
-std::string readBytes(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
-}
-
-// Every file of the site folder with its bytes: what a command may have written.
-std::map<std::string, std::string> siteFolder(const TempProgramFolder& folder) {
-    std::map<std::string, std::string> files;
-    for (const auto& entry : fs::directory_iterator(folder.path() / "SaveSiteInfo")) {
-        files[entry.path().filename().string()] = readBytes(entry.path());
-    }
-    return files;
-}
 
 // Everything a command could change, for the checks of "nothing else".
 std::map<std::string, std::string> everything(const ApplicationState& app) {
@@ -137,13 +123,13 @@ TEST_P(FileDialogs, CancelEndsTheCommandSilently) {
     calculate(); // New and Open ask first; No lets them go on to the dialog
     ui().answers = {Answer::No};
     const auto before = everything(app());
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().chosenFiles = {std::nullopt};
     EXPECT_EQ(GetParam().command(app(), ui()), FileCommandEnd::Nothing);
     EXPECT_EQ(ui().fileDialogs.size(), 1U);
     EXPECT_EQ(ui().shown.size(), GetParam().save ? 0U : 1U) << "only the question before the dialog";
     EXPECT_TRUE(changed(before, everything(app())).empty());
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, FileDialogs,
@@ -212,11 +198,11 @@ TEST_F(FileCommandsTest, YesWritesTheOldSiteFileAndLeavesBlnSavedFalse) {
 
 TEST_F(FileCommandsTest, NoWritesNothingAndGoesOnToTheDialog) {
     calculate();
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().answers = {Answer::No};
     ui().chosenFiles = {std::nullopt};
     FileNew(app(), ui());
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
     EXPECT_EQ(ui().fileDialogs.size(), 1U);
     EXPECT_FALSE(app().flags.blnSaved);
 }
@@ -279,12 +265,12 @@ TEST_F(FileCommandsTest, SaveAsOverAnExistingFileAsksAndNoEnds) {
     calculate();
     const std::string existing = site("SmallGasStation.txt");
     const auto before = everything(app());
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().chosenFiles = {existing};
     ui().answers = {Answer::No};
     EXPECT_EQ(FileSaveAs(app(), ui()), FileCommandEnd::Nothing);
     EXPECT_EQ(ui().shown, std::vector<std::string>{"File Already exists! Do you want to overwrite"});
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
     EXPECT_TRUE(changed(before, everything(app())).empty());
 }
 
@@ -302,11 +288,11 @@ TEST_F(FileCommandsTest, SaveAsOverAnExistingFileWithYesReplacesIt) {
 TEST_F(FileCommandsTest, SaveAsWithAnEmptyNameEnds) {
     calculate();
     const auto before = everything(app());
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().chosenFiles = {std::string()};
     EXPECT_EQ(FileSaveAs(app(), ui()), FileCommandEnd::Nothing);
     EXPECT_TRUE(ui().shown.empty());
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
     EXPECT_TRUE(changed(before, everything(app())).empty());
 }
 
@@ -327,14 +313,14 @@ TEST_F(FileCommandsTest, OpenOfAGoodFileReadsCalculatesAndTakesItsName) {
 
 TEST_F(FileCommandsTest, OpenOfAMissingFileShowsMessage11EmptiesTheSiteFileAndKeepsTheCaption) {
     const auto before = everything(app());
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().chosenFiles = {site("Nowhere.txt")};
     EXPECT_EQ(FileOpen(app(), ui()), FileCommandEnd::Nothing);
     EXPECT_EQ(ui().shown, std::vector<std::string>{message11});
     EXPECT_EQ(app().strSiteFile, "");
     EXPECT_EQ(app().caption, defaultSite());
     EXPECT_EQ(changed(before, everything(app())), std::vector<std::string>{"strSiteFile"});
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
 }
 
 TEST_F(FileCommandsTest, AfterAMissingFileNewOpenAndExitNoLongerAsk) {
@@ -372,7 +358,7 @@ TEST_P(FailedOpen, ShowsMessage10KeepsTheNewNameTheOldCaptionAndBlnSavedAndWrite
         app().strSiteFile = defaultSite();
         ui().shown.clear();
         ui().icons.clear();
-        const auto files = siteFolder(folder);
+        const auto files = filesIn(folder.path() / "SaveSiteInfo");
         ui().answers = {Answer::No};
         ui().chosenFiles = {bad};
         EXPECT_EQ(FileOpen(app(), ui()), FileCommandEnd::ReadFailed);
@@ -381,7 +367,7 @@ TEST_P(FailedOpen, ShowsMessage10KeepsTheNewNameTheOldCaptionAndBlnSavedAndWrite
         EXPECT_EQ(app().strSiteFile, bad);
         EXPECT_EQ(app().caption, defaultSite());
         EXPECT_EQ(app().flags.blnSaved, saved);
-        EXPECT_EQ(siteFolder(folder), files);
+        EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
     }
 }
 
@@ -469,13 +455,13 @@ TEST_F(FileCommandsTest, NewWithTheNameOfAnExistingFileShowsTheMessageAndChanges
     calculate();
     ui().answers = {Answer::No};
     const auto before = everything(app());
-    const auto files = siteFolder(folder);
+    const auto files = filesIn(folder.path() / "SaveSiteInfo");
     ui().chosenFiles = {site("SmallGasStation.txt")};
     EXPECT_EQ(FileNew(app(), ui()), FileCommandEnd::Nothing);
     EXPECT_EQ(ui().shown, (std::vector<std::string>{notSaved, newNameTaken}));
     EXPECT_EQ(ui().icons.back(), MessageIcon::None);
     EXPECT_TRUE(changed(before, everything(app())).empty());
-    EXPECT_EQ(siteFolder(folder), files);
+    EXPECT_EQ(filesIn(folder.path() / "SaveSiteInfo"), files);
 }
 
 TEST_F(FileCommandsTest, NewStartsAgainUnderTheNameAndTheFileComesAtTheFirstSave) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The Dynamic Flow Graph after Calculate, Make Baseline and a change of units.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "engine/chart_scale.h"
 #include "workbench/flow_chart.h"

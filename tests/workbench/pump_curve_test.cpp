@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The pump performance curve of the Pump Area.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "engine/chart_scale.h"
 #include "workbench/pump_curve.h"

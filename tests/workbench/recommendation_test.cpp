@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The inert recommendation feature: its texts, its focus flags, and its lists' click and double click.
-#include "started_app.h"
+#include "support/started_app.h"
 #include "support/failure_of.h"
 #include "workbench/panel_events.h"
 #include "workbench/recommendation.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The rows of flxCurrent and flxBaseLine.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "workbench/result_grid.h"
 

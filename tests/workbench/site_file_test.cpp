@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Writing and reading the site file, and File, Open, Save and New around them.
 #include "panel_view.h"
-#include "started_app.h"
+#include "support/started_app.h"
 #include "support/failure_of.h"
 
 #include "catalogue/text_lines.h"
@@ -26,18 +26,12 @@ using test::failureOf;
 using test::shippedWithSettings;
 using test::start;
 using test::Started;
+using test::readBytes;
 using test::TempProgramFolder;
 
 namespace fs = std::filesystem;
 
 // ---- Helpers ----
-
-std::string readBytes(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
-}
 
 std::string sitePath(const TempProgramFolder& folder, std::string_view name) {
     return (folder.path() / "SaveSiteInfo" / name).string();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Round trips of random sites through the site file, in US and in metric units.
 #include "panel_view.h"
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "engine/site_description.h"
 #include "workbench/site_file.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The snapshots of the panels, Back To Baseline, and the unsaved-work flag.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "workbench/snapshot_store.h"
 

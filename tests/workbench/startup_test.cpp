@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // What start-up makes of a program folder: lists, fields, flags and the first results.
-#include "started_app.h"
+#include "support/started_app.h"
 
 #include "engine/pipe_friction.h"
 #include "workbench/startup.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Update as the main window lives through it: the lists after a merge, and after a merge that failed.
-#include "workbench/started_app.h"
+#include "support/started_app.h"
 #include "workbench/update_data.h"
 
 #include "catalogue/component_file.h"

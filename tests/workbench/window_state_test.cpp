@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // What the controls of the areas do when clicked, entered and left, and the site picture.
-#include "started_app.h"
+#include "support/started_app.h"
 #include "support/failure_of.h"
 
 #include "workbench/panel_events.h"

@@ -3,7 +3,7 @@
 // The help viewer as a designer meets it: F1 in the main window opens the page, links and the contents are followed.
 #include "gui/common/help_viewer.h"
 #include "gui/common/qt_user_interaction.h"
-#include "gui/support/gui_test_support.h"
+#include "gui/support/screenshot.h"
 #include "gui/workbench/main_window.h"
 #include "support/temp_program_folder.h"
 #include "workbench/startup.h"

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the main window: the areas and their checks, the graph, the grids, the pump curve and the ways out.
-#include "gui/support/gui_test_support.h"
-#include "support/recording_interaction.h"
-#include "support/temp_program_folder.h"
+#include "gui/support/station.h"
 #include "gui/common/chart_adapter.h"
 #include "gui/common/field_filters.h"
 #include "gui/common/run_event.h"
@@ -23,7 +21,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QImage>
 #include <QKeyEvent>
@@ -56,134 +53,14 @@ using vesk::gui::ChartAdapter;
 using vesk::gui::FieldFilter;
 using vesk::gui::fromWindows1252;
 using vesk::gui::MainWindow;
+using vesk::gui::test::sitePictureColour;
+using vesk::gui::test::Station;
+using vesk::gui::test::writeSitePictures;
+using vesk::test::readBytes;
 using vesk::test::RecordingInteraction;
 using vesk::test::TempProgramFolder;
 
 namespace {
-
-constexpr int pumpQuantities = 4;
-constexpr int branchCounts = 4;
-
-// A picture per pump quantity and number of branches, each of its own colour.
-QColor pictureColour(int pumps, int branches) {
-    return QColor::fromHsv((pumps * branchCounts + branches) * 21 % 360, 200, 220);
-}
-
-void writeSitePictures(const TempProgramFolder& folder) {
-    std::filesystem::create_directories(folder.path() / "Image");
-    for (int pumps = 1; pumps <= pumpQuantities; ++pumps) {
-        for (int branches = 1; branches <= branchCounts; ++branches) {
-            QImage picture(160, 110, QImage::Format_RGB32);
-            picture.fill(pictureColour(pumps, branches));
-            QPainter painter(&picture);
-            painter.drawText(picture.rect(), Qt::AlignCenter,
-                             QStringLiteral("%1 pump, %2 branch").arg(pumps).arg(branches));
-            painter.end();
-            const std::filesystem::path file =
-                folder.path() / "Image" / (std::to_string(pumps) + "Pump" + std::to_string(branches) + "Branch.jpg");
-            QVERIFY(picture.save(QString::fromStdString(file.string()), "JPG"));
-        }
-    }
-}
-
-// A program folder (the shipped one with site pictures), the state that
-// start-up builds from it, and the window over it.
-struct Station {
-    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-    ApplicationState app;
-    RecordingInteraction ui;
-    std::unique_ptr<MainWindow> window;
-    std::vector<int> programEnds;
-
-    explicit Station(const std::function<void(const TempProgramFolder&)>& prepare = {}) {
-        writeSitePictures(folder);
-        if (prepare) {
-            prepare(folder);
-        }
-        app.programFolder = folder.path();
-        vesk::InitialiseMainWindow(app, ui);
-        window = std::make_unique<MainWindow>(app, ui);
-        window->setProgramEnd([this](int status) { programEnds.push_back(status); });
-    }
-
-    template <class Widget = QWidget> Widget* find(const char* name) const {
-        auto* widget = window->findChild<Widget*>(QString::fromLatin1(name));
-        if (widget == nullptr) {
-            qWarning("no control named %s", name);
-        }
-        return widget;
-    }
-    QMenu* menu(const char* name) const { return window->menuBar()->findChild<QMenu*>(QString::fromLatin1(name)); }
-    QAction* action(const char* name) const {
-        return window->menuBar()->findChild<QAction*>(QString::fromLatin1(name));
-    }
-    QLineEdit* field(const char* name) const { return find<QLineEdit>(name); }
-    FieldFilter* filterOf(const char* name) const { return field(name)->findChild<FieldFilter*>(); }
-    void click(const char* name) const { find<QAbstractButton>(name)->click(); }
-
-    // Types into a field as the user does: the old text selected and replaced.
-    void type(const char* name, const QString& keys) const {
-        QLineEdit* edit = field(name);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        for (const QChar key : keys) {
-            if (key.unicode() < 128) {
-                QTest::keyClick(edit, key.toLatin1());
-            } else { // QTest types ASCII only
-                QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(key));
-                QApplication::sendEvent(edit, &press);
-            }
-        }
-    }
-    // Types a text and leaves the field, which runs its check.
-    bool enter(const char* name, const QString& text) const {
-        type(name, text);
-        return filterOf(name)->leave();
-    }
-    void choose(const char* name, int index) const {
-        auto* combo = find<QComboBox>(name);
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    }
-    void show() const {
-        window->resize(1280, 800);
-        window->show();
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-    }
-    // Runs the System Settings dialog over the window and presses Ok with the
-    // units given; a dialog that does not come up fails instead of hanging.
-    void chooseUnits(bool metric) const {
-        bool pressed = false;
-        QTimer::singleShot(0, window.get(), [&pressed, metric] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            if (dialog == nullptr) {
-                return;
-            }
-            auto* option =
-                dialog->findChild<QRadioButton*>(metric ? QStringLiteral("optMetric") : QStringLiteral("optUS"));
-            auto* ok = dialog->findChild<QPushButton*>(QStringLiteral("cmdOk"));
-            if (option == nullptr || ok == nullptr) {
-                qobject_cast<QDialog*>(dialog)->reject();
-                return;
-            }
-            option->click();
-            ok->click();
-            pressed = true;
-        });
-        QTimer watchdog;
-        watchdog.setSingleShot(true);
-        QObject::connect(&watchdog, &QTimer::timeout, [] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                dialog->reject();
-            }
-        });
-        watchdog.start(5000);
-        action("mnuSystemSettings")->trigger();
-        QVERIFY(pressed);
-    }
-};
 
 QString q(const std::string& bytes) {
     return fromWindows1252(bytes);
@@ -230,18 +107,6 @@ void compareGrid(const QTableWidget* table, const vesk::ResultGrid& grid) {
             QCOMPARE(item->background().color(), colour(cell.backColour));
         }
     }
-}
-
-std::string readFile(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
-
-QString scaleSuffix() {
-    const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR");
-    return scale.isEmpty() || scale == QStringLiteral("1") ? QString() : QStringLiteral("_scale") + scale;
 }
 
 } // namespace
@@ -1038,17 +903,17 @@ class MainWindowTest : public QObject {
             return std::abs(a.red() - b.red()) < 24 && std::abs(a.green() - b.green()) < 24 &&
                    std::abs(a.blue() - b.blue()) < 24;
         };
-        QVERIFY(near(pictureColourShown(), pictureColour(1, 1)));
+        QVERIFY(near(pictureColourShown(), sitePictureColour(1, 1)));
         s.choose("cmbNoOfBranches", 2);
-        QVERIFY(near(pictureColourShown(), pictureColour(1, 3)));
+        QVERIFY(near(pictureColourShown(), sitePictureColour(1, 3)));
         // A new quantity shows once the focus leaves the list.
         auto* quantity = s.find<QComboBox>("cmbQuantity");
         s.find<QTabWidget>("tabMain")->setCurrentIndex(2);
         quantity->setFocus(Qt::MouseFocusReason);
         s.choose("cmbQuantity", 3);
-        QVERIFY(near(pictureColourShown(), pictureColour(1, 3)));
+        QVERIFY(near(pictureColourShown(), sitePictureColour(1, 3)));
         s.find("cmbLeak")->setFocus(Qt::TabFocusReason);
-        QVERIFY(near(pictureColourShown(), pictureColour(4, 3)));
+        QVERIFY(near(pictureColourShown(), sitePictureColour(4, 3)));
     }
 
     void aMissingSitePictureEndsTheProgram() {
@@ -1122,78 +987,7 @@ class MainWindowTest : public QObject {
         s.folder.remove("Vesk.ini");
         QVERIFY(s.window->close());
         QVERIFY(s.ui.shown.empty());
-        QCOMPARE(readFile(s.folder.path() / "Vesk.ini"), std::string("40\r\n4\r\nTrue\r\nTrue\r\nA\r\n"));
-    }
-
-    // ------------------------------------------------------------ pictures and times
-
-    void screenshotsOfTheAreas_data() {
-        QTest::addColumn<int>("area");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("dispensing") << 0 << "main_window_dispensing";
-        QTest::newRow("piping") << 1 << "main_window_piping";
-        QTest::newRow("pump") << 2 << "main_window_pump";
-        QTest::newRow("site") << 3 << "main_window_site";
-    }
-    void screenshotsOfTheAreas() {
-        QFETCH(int, area);
-        QFETCH(QString, name);
-        m_station = std::make_unique<Station>();
-        Station& s = *m_station;
-        s.show();
-        s.find<QTabWidget>("tabMain")->setCurrentIndex(area);
-        if (area == 0) {
-            s.choose("cmbQuantity", 1);
-            s.click("BaseLine");
-        }
-        QTest::qWait(50);
-        const QString file = vesk::gui::test::saveScreenshot(s.window.get(), name + scaleSuffix());
-        QVERIFY(QFileInfo::exists(file));
-    }
-
-    void measureCalculateOnFortyNozzles() {
-        m_station = std::make_unique<Station>();
-        Station& s = *m_station;
-        s.show();
-        QVERIFY(!s.enter("txtNoOfNozzle", QStringLiteral("40")));
-        s.click("cmdCalculate"); // the rows rebuilt once
-        // Each press timed alone, and with the window painted after it.
-        std::vector<double> pressed;
-        std::vector<double> painted;
-        for (int round = 0; round < 10; ++round) {
-            QElapsedTimer timer;
-            timer.start();
-            s.click("cmdCalculate");
-            pressed.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-            s.window->repaint();
-            painted.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-        }
-        std::sort(pressed.begin(), pressed.end());
-        std::sort(painted.begin(), painted.end());
-        qInfo("Calculate on 40 nozzles, sweep and redraw: median %.1f ms, worst %.1f ms; with the window painted: "
-              "median %.1f ms, worst %.1f ms",
-              pressed[5], pressed.back(), painted[5], painted.back());
-        QCOMPARE(chartPoints(s.window->flowChart(), 1).size(), std::size_t{40});
-    }
-
-    void measureStartUpToWindowShown() {
-        TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-        writeSitePictures(folder);
-        ApplicationState app;
-        RecordingInteraction ui;
-        app.programFolder = folder.path();
-        QElapsedTimer timer;
-        timer.start();
-        vesk::InitialiseMainWindow(app, ui);
-        const qint64 initialised = timer.nsecsElapsed();
-        MainWindow window(app, ui);
-        window.resize(1280, 800);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const qint64 shown = timer.nsecsElapsed();
-        qInfo("From the end of the splash wait to the window shown: %.1f ms (initialisation %.1f ms)",
-              static_cast<double>(shown) / 1e6, static_cast<double>(initialised) / 1e6);
-        window.close();
+        QCOMPARE(readBytes(s.folder.path() / "Vesk.ini"), std::string("40\r\n4\r\nTrue\r\nTrue\r\nA\r\n"));
     }
 
   private:

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the site files in the window: New, Open, Save, Save As, their questions, and Site Properties.
-#include "gui/support/gui_test_support.h"
-#include "support/recording_interaction.h"
-#include "support/temp_program_folder.h"
+#include "gui/support/screenshot.h"
+#include "gui/support/station.h"
 #include "gui/common/field_filters.h"
 #include "gui/workbench/main_window.h"
 #include "gui/common/qt_user_interaction.h"
@@ -43,7 +42,10 @@ using vesk::ApplicationState;
 using vesk::gui::FieldFilter;
 using vesk::gui::fromWindows1252;
 using vesk::gui::MainWindow;
-using vesk::test::RecordingInteraction;
+using vesk::gui::test::Station;
+using vesk::gui::test::typeKeys;
+using vesk::test::filesIn;
+using vesk::test::readBytes;
 using vesk::test::TempProgramFolder;
 
 namespace fs = std::filesystem;
@@ -56,103 +58,6 @@ constexpr const char* emailText = "E-mail Id should consist  of '@' and '.' symb
 QString q(const std::string& bytes) {
     return fromWindows1252(bytes);
 }
-
-std::string readFile(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
-
-// Every file of the site folder with its bytes.
-std::map<std::string, std::string> siteFolder(const fs::path& programFolder) {
-    std::map<std::string, std::string> files;
-    for (const auto& entry : fs::directory_iterator(programFolder / "SaveSiteInfo")) {
-        files[entry.path().filename().string()] = readFile(entry.path());
-    }
-    return files;
-}
-
-// The application started on a program folder and its window, with the boxes
-// recorded and the file dialogs answered from a script.
-struct Station {
-    ApplicationState app;
-    RecordingInteraction ui;
-    std::unique_ptr<MainWindow> window;
-    std::vector<int> programEnds;
-
-    explicit Station(const fs::path& programFolder) {
-        app.programFolder = programFolder;
-        vesk::InitialiseMainWindow(app, ui);
-        window = std::make_unique<MainWindow>(app, ui);
-        window->setProgramEnd([this](int status) { programEnds.push_back(status); });
-    }
-
-    template <class Widget = QWidget> Widget* find(const char* name) const {
-        return window->findChild<Widget*>(QString::fromLatin1(name));
-    }
-    QAction* action(const char* name) const {
-        return window->menuBar()->findChild<QAction*>(QString::fromLatin1(name));
-    }
-    void trigger(const char* name) const { action(name)->trigger(); }
-    QString site(const char* name) const {
-        return QString::fromStdString((app.programFolder / "SaveSiteInfo" / name).string());
-    }
-    std::string sitePath(const char* name) const { return (app.programFolder / "SaveSiteInfo" / name).string(); }
-    // Types a text over a field's text and leaves it, which runs its check.
-    void enter(const char* name, const QString& text) const {
-        auto* edit = find<QLineEdit>(name);
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        QTest::keyClicks(edit, text);
-        edit->findChild<FieldFilter*>()->leave();
-    }
-    void choose(const char* name, int index) const {
-        auto* combo = find<QComboBox>(name);
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    }
-    void click(const char* name) const { find<QAbstractButton>(name)->click(); }
-    void show() const {
-        window->resize(1280, 800);
-        window->show();
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-    }
-
-    // Opens Options > Site Properties and runs `drive` on the dialog while it
-    // is up; a dialog still open afterwards is rejected, and a watchdog
-    // rejects one that hangs. Returns whether the dialog came up.
-    bool siteProperties(const std::function<void(QDialog*)>& drive) const {
-        bool cameUp = false;
-        QTimer::singleShot(0, window.get(), [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr) {
-                return;
-            }
-            cameUp = true;
-            // The focus events of the dialog's boxes need it to be the active window.
-            dialog->activateWindow();
-            QApplication::setActiveWindow(dialog);
-            if (QTest::qWaitFor([dialog] { return QApplication::activeWindow() == dialog; })) {
-                drive(dialog);
-            }
-            if (dialog->isVisible()) {
-                dialog->reject();
-            }
-        });
-        QTimer watchdog;
-        watchdog.setSingleShot(true);
-        QObject::connect(&watchdog, &QTimer::timeout, [] {
-            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                dialog->reject();
-            }
-        });
-        watchdog.start(10000);
-        trigger("mnuSiteProperties");
-        return cameUp;
-    }
-};
 
 // What a person sees of the site: every field and list of the four areas.
 std::map<QString, QString> fieldsShown(const MainWindow& window) {
@@ -188,18 +93,6 @@ QStringList flowTexts(const vesk::FlowTable& table) {
     return texts;
 }
 
-void typeInto(QLineEdit* box, const QString& keys) {
-    box->setFocus(Qt::OtherFocusReason);
-    for (const QChar key : keys) {
-        if (key.unicode() < 128) {
-            QTest::keyClick(box, key.toLatin1());
-        } else { // QTest types ASCII only
-            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(key));
-            QApplication::sendEvent(box, &press);
-        }
-    }
-}
-
 } // namespace
 
 namespace vesk::gui::test {
@@ -210,7 +103,7 @@ class SiteFilesTest : public QObject {
   private slots:
     void init() {
         m_folder = std::make_unique<TempProgramFolder>(TempProgramFolder::copyOfShipped());
-        m_station = std::make_unique<Station>(m_folder->path());
+        m_station = std::make_unique<Station>(*m_folder);
     }
 
     void cleanup() {
@@ -226,11 +119,6 @@ class SiteFilesTest : public QObject {
     }
 
     // ------------------------------------------------------------ the dialogs
-
-    void theSeamConvertsTheFilterToQtsForm() {
-        QCOMPARE(QtFileFilter("Vesk Files(*.txt)|*.txt"), QStringLiteral("Vesk Files(*.txt)"));
-        QCOMPARE(QtFileFilter("Text|*.txt|All|*.*"), QStringLiteral("Text (*.txt);;All (*.*)"));
-    }
 
     void eachCommandAsksItsDialog_data() {
         QTest::addColumn<QString>("command");
@@ -251,7 +139,7 @@ class SiteFilesTest : public QObject {
         s.ui.chosenFiles = {std::nullopt};
         const QString caption = s.window->windowTitle();
         const auto shown = fieldsShown(*s.window);
-        const auto files = siteFolder(s.app.programFolder);
+        const auto files = filesIn(s.app.programFolder / "SaveSiteInfo");
         s.trigger(command.toLatin1().constData());
         QCOMPARE(s.ui.fileDialogs.size(), std::size_t{1});
         const FileDialogRequest& request = s.ui.fileDialogs.front();
@@ -264,7 +152,7 @@ class SiteFilesTest : public QObject {
         QVERIFY(s.ui.shown.empty());
         QCOMPARE(s.window->windowTitle(), caption);
         QVERIFY(fieldsShown(*s.window) == shown);
-        QVERIFY(siteFolder(s.app.programFolder) == files);
+        QVERIFY(filesIn(s.app.programFolder / "SaveSiteInfo") == files);
     }
 
     // ------------------------------------------------------------ the question
@@ -346,12 +234,12 @@ class SiteFilesTest : public QObject {
 
     void saveAsOverAnExistingFileAsksAndNoEnds() {
         Station& s = *m_station;
-        const auto files = siteFolder(s.app.programFolder);
+        const auto files = filesIn(s.app.programFolder / "SaveSiteInfo");
         s.ui.chosenFiles = {s.sitePath("SmallGasStation.txt")};
         s.ui.answers = {Answer::No};
         s.trigger("mnuSaveAs");
         QCOMPARE(s.ui.shown, std::vector<std::string>{"File Already exists! Do you want to overwrite"});
-        QVERIFY(siteFolder(s.app.programFolder) == files);
+        QVERIFY(filesIn(s.app.programFolder / "SaveSiteInfo") == files);
         QCOMPARE(s.window->windowTitle(), s.site("Default.txt"));
     }
 
@@ -399,7 +287,7 @@ class SiteFilesTest : public QObject {
         QVERIFY(s.ui.shown.empty()); // saved, so nothing asks
         QVERIFY(!s.window->isVisible());
 
-        m_other = std::make_unique<Station>(m_folder->path());
+        m_other = std::make_unique<Station>(*m_folder);
         Station& again = *m_other;
         again.show();
         again.ui.chosenFiles = {again.sitePath("Harbour.txt")};
@@ -452,14 +340,14 @@ class SiteFilesTest : public QObject {
     void aMissingFileShowsMessage11AndKeepsTheCaption() {
         Station& s = *m_station;
         const auto shown = fieldsShown(*s.window);
-        const auto files = siteFolder(s.app.programFolder);
+        const auto files = filesIn(s.app.programFolder / "SaveSiteInfo");
         s.ui.chosenFiles = {s.sitePath("Nowhere.txt")};
         s.trigger("mnuOpen");
         QCOMPARE(s.ui.shown, std::vector<std::string>{"File doesn't exists"});
         QCOMPARE(s.window->windowTitle(), s.site("Default.txt"));
         QCOMPARE(s.app.strSiteFile, std::string());
         QVERIFY(fieldsShown(*s.window) == shown);
-        QVERIFY(siteFolder(s.app.programFolder) == files);
+        QVERIFY(filesIn(s.app.programFolder / "SaveSiteInfo") == files);
     }
 
     void aBadFileShowsMessage10AndKeepsTheCaption_data() {
@@ -474,7 +362,7 @@ class SiteFilesTest : public QObject {
         QFETCH(int, badLine);
         QFETCH(bool, controlsKept);
         Station& s = *m_station;
-        std::istringstream example(readFile(s.app.programFolder / "SaveSiteInfo" / "SmallGasStation.txt"));
+        std::istringstream example(readBytes(s.app.programFolder / "SaveSiteInfo" / "SmallGasStation.txt"));
         std::string bytes;
         std::string line;
         for (int index = 0; index < lines && std::getline(example, line); ++index) {
@@ -482,7 +370,7 @@ class SiteFilesTest : public QObject {
         }
         std::ofstream(s.sitePath("Bad.txt"), std::ios::binary) << bytes;
         const auto shown = fieldsShown(*s.window);
-        const auto files = siteFolder(s.app.programFolder);
+        const auto files = filesIn(s.app.programFolder / "SaveSiteInfo");
         const bool saved = s.app.flags.blnSaved;
         s.ui.chosenFiles = {s.sitePath("Bad.txt")};
         s.trigger("mnuOpen");
@@ -491,7 +379,7 @@ class SiteFilesTest : public QObject {
         QCOMPARE(s.window->windowTitle(), s.site("Default.txt"));
         QCOMPARE(q(s.app.strSiteFile), s.site("Bad.txt"));
         QCOMPARE(s.app.flags.blnSaved, saved);
-        QVERIFY(siteFolder(s.app.programFolder) == files);
+        QVERIFY(filesIn(s.app.programFolder / "SaveSiteInfo") == files);
         if (controlsKept) {
             QVERIFY(fieldsShown(*s.window) == shown);
         } else { // the lines before the bad one are shown
@@ -501,7 +389,7 @@ class SiteFilesTest : public QObject {
 
     void openCutsTheNozzlesToTheLimitWithoutAMessage() {
         Station& s = *m_station;
-        std::string bytes = readFile(s.app.programFolder / "SaveSiteInfo" / "SmallGasStation.txt");
+        std::string bytes = readBytes(s.app.programFolder / "SaveSiteInfo" / "SmallGasStation.txt");
         const std::string nozzleLine = "\r\n6\r\n$PIA";
         bytes.replace(bytes.find(nozzleLine), nozzleLine.size(), "\r\n45\r\n$PIA");
         std::ofstream(s.sitePath("Many.txt"), std::ios::binary) << bytes;
@@ -591,8 +479,6 @@ class SiteFilesTest : public QObject {
                 ->setText(QStringLiteral("ops@harbour.example"));
             dialog->findChild<QLineEdit*>(QStringLiteral("txtReport(4)"))->setText(QStringLiteral("(555) 010-7788"));
             chkPrint->setChecked(true);
-            const QString file = saveScreenshot(dialog, QStringLiteral("site_properties"));
-            QVERIFY(QFileInfo::exists(file));
         }));
     }
 
@@ -624,7 +510,8 @@ class SiteFilesTest : public QObject {
         s.show();
         QVERIFY(s.siteProperties([&](QDialog* dialog) {
             auto* edit = dialog->findChild<QLineEdit*>(box);
-            typeInto(edit, typed);
+            edit->setFocus(Qt::OtherFocusReason);
+            typeKeys(edit, typed);
             QCOMPARE(edit->text(), kept);
             QTest::keyClick(edit, Qt::Key_Backspace);
             QCOMPARE(edit->text(), kept.chopped(1));

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Options > Update as a designer uses it, F1 in the forms and Help > Help F1, and the inert recommendation controls.
-#include "gui/support/gui_test_support.h"
+#include "gui/support/modal_driver.h"
+#include "gui/support/station.h"
 #include "gui/workbench/main_window.h"
 #include "gui/workbench/update_dialog.h"
 #include "support/recording_interaction.h"
@@ -28,50 +29,16 @@
 #include <functional>
 #include <memory>
 
-using vesk::test::RecordingInteraction;
-using vesk::test::TempProgramFolder;
+using vesk::gui::test::TempProgramFolder;
 
 namespace {
 
-// A program folder (a copy of the shipped one, prepared as a test needs), the
-// state that start-up builds from it, and the main window over it.
-struct Window {
-    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-    vesk::ApplicationState app;
-    RecordingInteraction ui;
-    std::unique_ptr<vesk::gui::MainWindow> window;
-    std::vector<int> programEnds;
+using Window = vesk::gui::test::Station;
 
-    explicit Window(const std::function<void(const TempProgramFolder&)>& prepare = {}) {
-        if (prepare) {
-            prepare(folder);
-        }
-        app.programFolder = folder.path();
-        vesk::InitialiseMainWindow(app, ui);
-        window = std::make_unique<vesk::gui::MainWindow>(app, ui);
-        window->setProgramEnd([this](int status) { programEnds.push_back(status); });
-        window->show();
-        window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window.get())) {
-            qWarning("the main window did not become active");
-        }
-    }
-    // Hidden while it is whole: a window destroyed while it is shown and
-    // active would hand its focus on half taken down.
-    ~Window() {
-        window->hide();
-        QApplication::processEvents();
-    }
-    Window(const Window&) = delete;
-    Window& operator=(const Window&) = delete;
-
-    template <class Widget = QWidget> Widget* find(const char* name) const {
-        return window->findChild<Widget*>(QString::fromLatin1(name));
-    }
-    QAction* action(const char* name) const {
-        return window->menuBar()->findChild<QAction*>(QString::fromLatin1(name));
-    }
-};
+// The window shown and active, as a designer has it.
+void showWindow(const Window& station) {
+    station.show();
+}
 
 QWidget* visibleWindowNamed(const char* name) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -83,31 +50,13 @@ QWidget* visibleWindowNamed(const char* name) {
 }
 
 // Runs `open`, which shows a modal dialog named `name` and waits for it; when
-// the dialog shows, `drive` works it. A dialog that does not close within
-// five seconds is rejected, so that the test fails instead of hanging.
+// the dialog shows, `drive` works it (the shared driver rejects a dialog left
+// open, so a test fails instead of hanging).
 bool whileModal(const char* name, const std::function<void()>& open, const std::function<void(QWidget*)>& drive) {
-    bool driven = false;
-    QTimer poll;
-    QElapsedTimer clock;
-    clock.start();
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        if (QWidget* dialog = visibleWindowNamed(name); dialog != nullptr && !driven) {
-            driven = true;
-            drive(dialog);
-        }
-        if (clock.elapsed() > 5000) {
-            poll.stop();
-            for (QWidget* widget : QApplication::topLevelWidgets()) {
-                if (auto* dialog = qobject_cast<QDialog*>(widget); dialog != nullptr && dialog->isVisible()) {
-                    dialog->reject();
-                }
-            }
-        }
+    return vesk::gui::test::driveModalDialog(open, [&](QDialog* dialog) {
+        QVERIFY2(dialog->objectName() == QLatin1String(name), name);
+        drive(dialog);
     });
-    poll.start(10);
-    open();
-    poll.stop();
-    return driven;
 }
 
 void click(QWidget* parent, const char* name) {
@@ -198,6 +147,7 @@ void UpdateAndHelpTest::cleanup() {
 
 void UpdateAndHelpTest::theUpdateDialogHasItsControlsAndHelpText() {
     Window station;
+    showWindow(station);
     vesk::gui::WindowContext context{station.app, station.ui, [](const std::function<void()>& work) {
                                          work();
                                          return true;
@@ -217,8 +167,6 @@ void UpdateAndHelpTest::theUpdateDialogHasItsControlsAndHelpText() {
         labelled = labelled || label->text() == QStringLiteral("Selected File to Update Existing File");
     }
     QVERIFY(labelled);
-    dialog.show();
-    vesk::gui::test::saveScreenshot(&dialog, QStringLiteral("update_dialog"));
 }
 
 void UpdateAndHelpTest::mergingAMakersNozzleFileKeepsTheCustomNozzlesAndListsTheNewOnes() {
@@ -226,6 +174,7 @@ void UpdateAndHelpTest::mergingAMakersNozzleFileKeepsTheCustomNozzlesAndListsThe
         folder.write("Components/NOZZLE.DAT", folder.read("Components/NOZZLE.DAT") + customNozzle);
         folder.write("maker/Nozzle.dat", makersNozzleFile());
     });
+    showWindow(station);
     const std::string before = station.folder.read("Components/NOZZLE.DAT");
     const std::string maker = (station.folder.path() / "maker" / "Nozzle.dat").string();
     station.ui.chosenFiles = {maker};
@@ -236,7 +185,6 @@ void UpdateAndHelpTest::mergingAMakersNozzleFileKeepsTheCustomNozzlesAndListsThe
         "frmUpdate", [&] { station.action("mnuUpdate")->trigger(); },
         [](QWidget* dialog) {
             click(dialog, "cmdBrowse");
-            vesk::gui::test::saveScreenshot(dialog, QStringLiteral("update_dialog_chosen"));
             click(dialog, "cmdUpdate");
         });
     QVERIFY(driven);
@@ -257,11 +205,11 @@ void UpdateAndHelpTest::mergingAMakersNozzleFileKeepsTheCustomNozzlesAndListsThe
     QCOMPARE(nozzles, (QStringList{QStringLiteral("None"), QStringLiteral("My nozzle"),
                                    QStringLiteral("Nozzle standard 3/4in"), QStringLiteral("Nozzle low-loss 3/4in")}));
     QVERIFY(station.programEnds.empty());
-    vesk::gui::test::saveScreenshot(station.window.get(), QStringLiteral("update_nozzles_merged"));
 }
 
 void UpdateAndHelpTest::aSuccessfulUpdatePutsTheListsOfTheWindowBackOnTheirFirstEntries() {
     Window station([](const TempProgramFolder& folder) { folder.write("maker/Nozzle.dat", makersNozzleFile()); });
+    showWindow(station);
     station.find<QComboBox>("cmbDispenser")->setCurrentIndex(2);
     station.app.panel.cmbDispenser.SetListIndex(2);
     station.app.panel.cmbHoseSize.SetListIndex(1);
@@ -285,6 +233,7 @@ void UpdateAndHelpTest::aSuccessfulUpdatePutsTheListsOfTheWindowBackOnTheirFirst
 
 void UpdateAndHelpTest::updateWithoutAPathShowsMessage12AndTheDialogStays() {
     Window station;
+    showWindow(station);
     bool stayed = false;
     QVERIFY(whileModal(
         "frmUpdate", [&] { station.action("mnuUpdate")->trigger(); },
@@ -299,6 +248,7 @@ void UpdateAndHelpTest::updateWithoutAPathShowsMessage12AndTheDialogStays() {
 
 void UpdateAndHelpTest::browseOffersTheDataFilesAndShowsTheChosenPath() {
     Window station;
+    showWindow(station);
     const std::string missing = (station.folder.path() / "maker" / "Hoses.dat").string();
     station.ui.chosenFiles = {missing};
     QString shown;
@@ -319,6 +269,7 @@ void UpdateAndHelpTest::browseOffersTheDataFilesAndShowsTheChosenPath() {
 
 void UpdateAndHelpTest::f1InTheMainWindowAndHelpF1OpenDifferentTopics() {
     Window station;
+    showWindow(station);
     pressF1(station.find("cmbDispenser"));
     station.action("mnuF1")->trigger();
     const std::string helpFile = (station.folder.path() / "VeskHelpFile.chm").string();
@@ -330,6 +281,7 @@ void UpdateAndHelpTest::f1InTheMainWindowAndHelpF1OpenDifferentTopics() {
 
 void UpdateAndHelpTest::f1InTheMainWindowsAreasOpensTheMainWindowsTopic() {
     Window station;
+    showWindow(station);
     for (const char* control : {"cmbPumps", "txtTankDiameter", "cmbTrunk", "txtNoOfNozzle", "cmdCalculate"}) {
         station.ui.helpTopics.clear();
         pressF1(station.find(control));
@@ -358,6 +310,7 @@ void UpdateAndHelpTest::f1InEachDialogOfTheMainWindowOpensItsOwnTopic() {
     QFETCH(QString, form);
     QFETCH(QString, topic);
     Window station;
+    showWindow(station);
     const QByteArray formName = form.toLatin1();
     QVERIFY(whileModal(
         formName.constData(), [&] { station.action(menu.toLatin1().constData())->trigger(); },
@@ -379,6 +332,7 @@ void UpdateAndHelpTest::formsWithoutATopicGetNothingFromF1_data() {
 void UpdateAndHelpTest::formsWithoutATopicGetNothingFromF1() {
     QFETCH(QString, form);
     Window station;
+    showWindow(station);
     const QByteArray formName = form.toLatin1();
     QVERIFY(whileModal(
         formName.constData(),
@@ -399,6 +353,7 @@ void UpdateAndHelpTest::formsWithoutATopicGetNothingFromF1() {
 
 void UpdateAndHelpTest::aMissingHelpFileShowsMessage32AndTheFormGoesOn() {
     Window station([](const TempProgramFolder& folder) { folder.remove("VeskHelpFile.chm"); });
+    showWindow(station);
     pressF1(station.find("cmbNozzle"));
     station.action("mnuF1")->trigger();
     QCOMPARE(station.ui.shown, (std::vector<std::string>{"Help File doesn't exist", "Help File doesn't exist"}));
@@ -411,6 +366,7 @@ void UpdateAndHelpTest::aMissingHelpFileShowsMessage32AndTheFormGoesOn() {
 
 void UpdateAndHelpTest::theRecommendationControlsAreInert() {
     Window station;
+    showWindow(station);
     for (const char* button : {"cmdDispRecom", "cmdPipingRecom", "cmdPumpRecom", "cmdSiteRec"}) {
         auto* recommend = station.find<QPushButton>(button);
         QVERIFY2(recommend != nullptr, button);
@@ -448,6 +404,7 @@ void UpdateAndHelpTest::theRecommendationControlsAreInert() {
 
 void UpdateAndHelpTest::noneOfThe43RecommendationTextsIsShown() {
     Window station;
+    showWindow(station);
     QCOMPARE(vesk::recommendationTexts.size(), std::size_t{43});
     for (QWidget* widget : station.window->findChildren<QWidget*>()) {
         QStringList texts{widget->toolTip()};

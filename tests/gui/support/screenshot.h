@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// What the window tests share: screenshots for a person to look at.
+// Screenshots of the windows under test, for a person to look at.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// What the window tests share: screenshots for a person to look at.
-#include "gui/support/gui_test_support.h"
+// Screenshots of the windows under test, for a person to look at.
+#include "gui/support/screenshot.h"
 
 #include <QDir>
 #include <QPixmap>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// An application started on a program folder, for the tests of the site layer.
+// An application started on a program folder, for the tests of the workbench and above.
 #pragma once
 
 #include "support/recording_interaction.h"
@@ -32,6 +32,12 @@ inline void start(const TempProgramFolder& folder, Started& started) {
         started.failure = failure.what();
     }
 }
+
+// Start-up on a program folder of its own, kept as long as the start.
+struct StartedApp : Started {
+    explicit StartedApp(TempProgramFolder programFolder) : folder(std::move(programFolder)) { start(folder, *this); }
+    TempProgramFolder folder;
+};
 
 // A program folder of the shipped data with its settings file replaced.
 inline TempProgramFolder shippedWithSettings(std::initializer_list<std::string_view> iniLines) {
