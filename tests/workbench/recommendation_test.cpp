@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The inert recommendation feature: its texts, its focus flags, and its lists' click and double click.
-#include "support/started_app.h"
 #include "support/failure_of.h"
+#include "support/started_app.h"
 #include "workbench/panel_events.h"
 #include "workbench/recommendation.h"
 
