@@ -43,17 +43,20 @@ void splitHeader(std::string_view header, ComponentRecord& record) {
 
 // Reads the point lines up to "#RATELOSS_END#" into `curve`. Each line splits
 // at its first comma, flow in front and head behind, both converted strictly
-// to Single; a line without a comma fails. The counter is a Byte, so the 256th
+// to Single (the flow to an Integer where the caller says so); a line without
+// a comma fails. The counter is a Byte, so the 256th
 // point overflows. The arrays grow by one element per point and are then cut
 // to the last point, which fails for a table of no point at all.
-void readRateLossPoints(TextLineReader& stream, RateLossCurve& curve) {
+void readRateLossPoints(TextLineReader& stream, RateLossCurve& curve, FlowConversion flowConversion) {
     std::string line = nextLine(stream);
     Byte counter = 0;
     curve.Flow.assign(1, 0);
     curve.Head.assign(1, 0);
     while (line != rateLossEnd) {
         const long comma = positionOf(line, ',');
-        at(curve.Flow, counter) = parseSingle(leftOf(line, comma - 1));
+        const std::string_view flowText = leftOf(line, comma - 1);
+        at(curve.Flow, counter) =
+            flowConversion == FlowConversion::ToInteger ? Single(parseInteger(flowText)) : parseSingle(flowText);
         at(curve.Head, counter) = parseSingle(midOf(line, comma + 1));
         counter = toByte(counter + 1.0);
         redimPreserve(curve.Flow, counter);
@@ -66,7 +69,8 @@ void readRateLossPoints(TextLineReader& stream, RateLossCurve& curve) {
 }
 
 // Reads one record from its header line to its "#RATELOSS_END#".
-void readRecord(const ComponentKindTraits& traits, TextLineReader& stream, ComponentRecord& record) {
+void readRecord(const ComponentKindTraits& traits, TextLineReader& stream, ComponentRecord& record,
+                FlowConversion flowConversion) {
     splitHeader(nextLine(stream), record);
     record.IsGas = parseBoolean(nextLine(stream));
     record.Origin = nextLine(stream);
@@ -75,7 +79,7 @@ void readRecord(const ComponentKindTraits& traits, TextLineReader& stream, Compo
     }
     // The line that opens the table is read and not looked at: any text will do.
     nextLine(stream);
-    readRateLossPoints(stream, record.Curve);
+    readRateLossPoints(stream, record.Curve, flowConversion);
 }
 
 // The lines of one record, every line ended by CR LF. The last point index is
@@ -111,14 +115,14 @@ std::string RemoveBlankLine(std::string line, TextLineReader& stream) {
 // line included, starts a record that runs past the end and fails. The record
 // cursor is a 16-bit Integer; at the end the catalogue is cut to cursor - 1,
 // which fails for a text without any record.
-Catalogue ParseComponentFile(ComponentKind kind, std::string text) {
+Catalogue ParseComponentFile(ComponentKind kind, std::string text, FlowConversion flowConversion) {
     const ComponentKindTraits& traits = traitsOf(kind);
     TextLineReader stream(std::move(text));
     Catalogue catalogue;
     Integer cursor = 0;
     catalogue.Records.resize(1);
     while (!stream.atEndOfStream()) {
-        readRecord(traits, stream, at(catalogue.Records, cursor));
+        readRecord(traits, stream, at(catalogue.Records, cursor), flowConversion);
         cursor = toInteger(cursor + 1.0);
         redimPreserve(catalogue.Records, cursor);
     }

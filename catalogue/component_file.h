@@ -4,8 +4,8 @@
 #pragma once
 
 #include "catalogue/component_files.h"
-#include "engine/component_record.h"
 #include "catalogue/text_lines.h"
+#include "engine/component_record.h"
 #include "messages/user_interaction.h"
 
 #include <filesystem>
@@ -18,9 +18,15 @@ namespace vesk {
 // end of the stream fails.
 std::string RemoveBlankLine(std::string line, TextLineReader& stream);
 
+// How the flow of a point line is converted: to a Single, as the catalogue's
+// reader does, or to a 16-bit Integer (half to even, "Overflow" outside
+// -32768 to 32767) held in the Single, as the update of six kinds does.
+enum class FlowConversion { ToSingle, ToInteger };
+
 // Parses the text of a component file of `kind` into its catalogue. Fails with
 // a RunTimeFailure on anything the grammar does not allow (see the reader).
-Catalogue ParseComponentFile(ComponentKind kind, std::string text);
+Catalogue ParseComponentFile(ComponentKind kind, std::string text,
+                             FlowConversion flowConversion = FlowConversion::ToSingle);
 
 // The reader of a kind's file in `programFolder`\Components. A missing file
 // shows the kind's "does not exist" message and ends the process; a damaged

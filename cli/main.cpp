@@ -1,15 +1,16 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
+#include "cli/update_command.h"
+#include "engine/numeric.h"
+#include "messages/user_interaction.h"
 #include "reports/compare_table.h"
-#include "site/program_folder.h"
 #include "reports/design_comparison.h"
+#include "site/program_folder.h"
 #include "workbench/calculate.h"
 #include "workbench/site_file.h"
 #include "workbench/startup.h"
 
-#include "engine/numeric.h"
-#include "messages/user_interaction.h"
 #ifdef VESK_CALC_REPORT
 #include "gui/reports/report_pdf.h"
 #endif
@@ -32,6 +33,7 @@ namespace {
 constexpr std::string_view usage = "usage: vesk-calc [--dir PROGRAM_FOLDER] [--baseline BASE_SITE] [--csv | --details "
                                    "| --compare | --report FILE.pdf] "
                                    "[SITE_FILE]\n"
+                                   "       vesk-calc [--dir PROGRAM_FOLDER] --update NEW_DATA_FILE\n"
                                    "       vesk-calc --version | --help";
 
 constexpr int exitFatalMessage = 1;
@@ -47,6 +49,7 @@ struct Options {
     std::string reportFile;
     std::optional<std::string> baseline;
     std::optional<std::string> siteFile;
+    std::optional<std::string> updateFile; // --update, which takes no other option but --dir
 };
 
 // Every box the system shows goes to stderr; nothing waits for an answer.
@@ -104,6 +107,16 @@ void addOptions(CLI::App& cli, Options& options) {
             }
         }
     }
+
+    // Update takes no other option but --dir.
+    CLI::Option* update = cli.add_option("--update", options.updateFile,
+                                         "merge a maker's new component file into the program folder's, as Update does")
+                              ->option_text("NEW_DATA_FILE");
+    for (CLI::Option* other : outputs) {
+        update->excludes(other);
+    }
+    update->excludes(site);
+    update->excludes("--baseline");
 }
 
 // Parses the arguments; --help and --version print and give their exit code,
@@ -262,5 +275,12 @@ int main(int argc, char** argv) {
     if (const int* exitCode = std::get_if<int>(&parsed)) {
         return *exitCode;
     }
-    return run(std::get<Options>(parsed));
+    const Options& options = std::get<Options>(parsed);
+    if (options.updateFile) {
+        const auto programFolder = [&options] {
+            return options.programFolder ? *options.programFolder : vesk::ProgramFolderFor(executableFolder());
+        };
+        return vesk::cli::RunUpdateCommand(programFolder, *options.updateFile, std::cerr);
+    }
+    return run(options);
 }

@@ -3,6 +3,7 @@
 // The help file, the topic of each form, and the one call that opens a topic.
 #include "messages/help_topics.h"
 
+#include <algorithm>
 #include <array>
 
 namespace vesk {
@@ -31,6 +32,15 @@ constexpr std::array<FormTopic, 12> formTopics{{
     {"frmSiteProperties", "Option Menu\\Site Properties.htm"},
 }};
 
+char lowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return lowerAscii(x) == lowerAscii(y); });
+}
+
 } // namespace
 
 std::optional<std::string_view> HelpTopicOf(std::string_view form) {
@@ -49,6 +59,36 @@ void ShowHelpTopic(const std::filesystem::path& helpFile, std::string_view topic
         return;
     }
     ui.showHelpTopic(helpFile.string(), topic);
+}
+
+std::string HelpFilePath(std::string_view topic) {
+    std::string path(topic);
+    std::replace(path.begin(), path.end(), '\\', '/');
+    if (!path.starts_with('/')) {
+        path.insert(path.begin(), '/');
+    }
+    return path;
+}
+
+std::optional<std::string> FindHelpPath(std::string_view topic, const std::vector<std::string>& paths) {
+    const std::string wanted = HelpFilePath(topic);
+    if (std::find(paths.begin(), paths.end(), wanted) != paths.end()) {
+        return wanted;
+    }
+    const auto found = std::find_if(paths.begin(), paths.end(),
+                                    [&wanted](const std::string& path) { return equalIgnoringCase(path, wanted); });
+    if (found == paths.end()) {
+        return std::nullopt;
+    }
+    return *found;
+}
+
+std::vector<std::string_view> AllFormTopics() {
+    std::vector<std::string_view> topics;
+    for (const FormTopic& entry : formTopics) {
+        topics.push_back(entry.topic);
+    }
+    return topics;
 }
 
 } // namespace vesk

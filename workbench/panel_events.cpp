@@ -20,6 +20,7 @@ RecommendationClears EnterControl(PanelState& panel, WindowState& window, std::s
     if (control == "optBasic") {
         ChoosePipingMode(panel, true);
     }
+    RecordRecommendationFocus(control, window.recommendationFocus);
     return FocusEntered(control, panel, window.recommendation);
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "workbench/panel_fields.h"
+#include "workbench/recommendation.h"
 
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ struct RecommendationLists {
 struct WindowState {
     Area tabMain = Area::Dispensing;
     RecommendationLists recommendation;
+    RecommendationFocus recommendationFocus;
     bool mnuOptionsEnabled = true;
     bool mnuSaveEnabled = true;
     bool mnuSaveAsEnabled = true;

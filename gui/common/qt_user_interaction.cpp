@@ -12,6 +12,16 @@
 #include <QPrinter>
 #include <QStringList>
 
+#ifdef _WIN32
+// htmlhelp.h needs the types of windows.h first.
+#include <windows.h>
+// clang-format off
+#include <htmlhelp.h>
+// clang-format on
+#else
+#include "gui/common/help_viewer.h"
+#endif
+
 namespace vesk::gui {
 
 namespace {
@@ -99,6 +109,17 @@ std::optional<PrinterChoice> QtUserInteraction::choosePrinter() {
     }
     choice.copies = printer.copyCount();
     return choice;
+}
+
+// The viewer runs on by itself; nothing waits for it, and a failure of it is
+// not reported.
+void QtUserInteraction::showHelpTopic(const std::string& helpFile, std::string_view topic) {
+#ifdef _WIN32
+    const std::string topicText(topic);
+    HtmlHelpA(nullptr, helpFile.c_str(), HH_DISPLAY_TOPIC, reinterpret_cast<DWORD_PTR>(topicText.c_str()));
+#else
+    HelpViewer::showTopic(std::filesystem::path(helpFile), topic);
+#endif
 }
 
 } // namespace vesk::gui

@@ -36,6 +36,8 @@ class QtUserInteraction : public UserInteraction {
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
     // The printer dialog, QPrintDialog: a printer or a PDF file, or nothing for Cancel.
     std::optional<PrinterChoice> choosePrinter() override;
+    // On Windows the system's help viewer; elsewhere our own (HelpViewer).
+    void showHelpTopic(const std::string& helpFile, std::string_view topic) override;
 
     // The window the boxes stand over; may change when the main window opens.
     void setParentWindow(QWidget* parent) { m_parent = parent; }

@@ -4,6 +4,7 @@
 #include "gui/workbench/areas.h"
 
 #include "gui/workbench/area_widgets.h"
+#include "gui/workbench/recommendation_lists.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -13,7 +14,7 @@
 
 namespace vesk::gui {
 
-DispensingArea::DispensingArea(WindowContext& /*context*/, PanelControls& controls)
+DispensingArea::DispensingArea(WindowContext& context, PanelControls& controls)
     : m_controls(controls), m_lstDispensing(named(new QListWidget, "lstDispensing")) {
     nameAreaFrame(*this, Area::Dispensing);
 
@@ -40,6 +41,7 @@ DispensingArea::DispensingArea(WindowContext& /*context*/, PanelControls& contro
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(grid);
     layout->addWidget(recommendation("cmdDispRecom", "txtRecommendDisp", m_lstDispensing));
+    WireRecommendationList(m_lstDispensing, RecommendationList::Dispensing, context, [this] { refresh(); });
     layout->addStretch(1);
     layout->addWidget(helpFrame(Area::Dispensing));
 }

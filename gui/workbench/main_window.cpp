@@ -4,6 +4,7 @@
 #include "gui/workbench/main_window.h"
 
 #include "gui/common/field_filters.h"
+#include "gui/common/help_keys.h"
 #include "gui/common/run_event.h"
 #include "gui/reports/preview_pages.h"
 #include "gui/workbench/area_widgets.h"
@@ -12,6 +13,8 @@
 #include "gui/workbench/panel_controls.h"
 #include "gui/workbench/results_panel.h"
 #include "gui/workbench/site_properties_dialog.h"
+#include "gui/workbench/update_dialog.h"
+#include "messages/help_topics.h"
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
 
@@ -127,6 +130,16 @@ void MainWindow::buildMenus() {
     onTriggered(options, "mnuSiteProperties", [this] { siteProperties(); });
     onTriggered(options, "mnuSystemSettings", [this] { systemSettings(); });
     onTriggered(help, "mnuAbout", [this] { runEvent([this] { ShowAbout(this); }); });
+    // Update, Help F1 and the F1 key of this window and its dialogs.
+    onTriggered(options, "mnuUpdate", [this] {
+        if (ShowUpdate(this, m_context)) {
+            refreshAll();
+        }
+    });
+    onTriggered(help, "mnuF1", [this] {
+        ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui);
+    });
+    new HelpKeys(*this, m_context.app.programFolder, m_context.ui);
 }
 
 QWidget* MainWindow::buildLeftPart() {

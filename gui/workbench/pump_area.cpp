@@ -5,6 +5,7 @@
 #include "gui/reports/preview_pages.h"
 #include "gui/workbench/area_widgets.h"
 #include "gui/workbench/areas.h"
+#include "gui/workbench/recommendation_lists.h"
 #include "workbench/pump_curve.h"
 
 #include <QChartView>
@@ -76,6 +77,7 @@ PumpArea::PumpArea(WindowContext& context, PanelControls& controls)
     layout->addLayout(curveButtons);
     layout->addWidget(m_msChart2, 1);
     layout->addWidget(recommendation("cmdPumpRecom", "txtRecommendPump", m_lstPump));
+    WireRecommendationList(m_lstPump, RecommendationList::Pump, context, [this] { refresh(); });
     layout->addWidget(helpFrame(Area::Pump));
 }
 

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: Vesk developers
+// SPDX-License-Identifier: MIT
+// The help viewer as a designer meets it: F1 in the main window opens the page, links and the contents are followed.
+#include "gui/common/help_viewer.h"
+#include "gui/common/qt_user_interaction.h"
+#include "gui/support/screenshot.h"
+#include "gui/workbench/main_window.h"
+#include "support/temp_program_folder.h"
+#include "workbench/startup.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <memory>
+
+using vesk::gui::HelpViewer;
+using vesk::test::TempProgramFolder;
+
+class HelpViewerTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void cleanup();
+    void f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage();
+    void topicsAreFoundWithBackslashesAndWithoutRegardToCase();
+    void linksStylesheetsAndTheContentsPageAreFollowedInsideTheFile();
+    void aFileThatIsNoHelpFileOpensNothing();
+};
+
+void HelpViewerTest::cleanup() {
+    if (HelpViewer* viewer = HelpViewer::instance()) {
+        viewer->close();
+        QApplication::processEvents();
+    }
+}
+
+void HelpViewerTest::f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage() {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    vesk::gui::QtUserInteraction ui(nullptr);
+    vesk::ApplicationState app;
+    app.programFolder = folder.path();
+    vesk::InitialiseMainWindow(app, ui);
+    auto window = std::make_unique<vesk::gui::MainWindow>(app, ui);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    window->findChild<QPushButton*>(QStringLiteral("cmdPump"))->click();
+    auto* pumps = window->findChild<QComboBox*>(QStringLiteral("cmbPumps"));
+    QTest::keyClick(pumps, Qt::Key_F1);
+
+    HelpViewer* viewer = HelpViewer::instance();
+    QVERIFY(viewer != nullptr);
+    QVERIFY(viewer->isVisible());
+    QVERIFY(!viewer->isModal());
+    QCOMPARE(viewer->currentPath(), QStringLiteral("/Main Functionality/Dynamic Flow Graph.htm"));
+    QCOMPARE(viewer->browser()->documentTitle(), QStringLiteral("Dynamic Flow Graph"));
+    // The main window goes on beside it.
+    QVERIFY(window->isEnabled());
+    vesk::gui::test::saveScreenshot(viewer, QStringLiteral("help_viewer_f1_pump_area"));
+    vesk::gui::test::saveScreenshot(window.get(), QStringLiteral("help_viewer_main_window"));
+    window->hide();
+}
+
+void HelpViewerTest::topicsAreFoundWithBackslashesAndWithoutRegardToCase() {
+    const std::filesystem::path file = vesk::test::shippedDataDir() / "VeskHelpFile.chm";
+    HelpViewer* viewer = HelpViewer::showTopic(file, "option menu\\HOSES.HTM");
+    QVERIFY(viewer != nullptr);
+    QCOMPARE(viewer->browser()->documentTitle(), QStringLiteral("Hoses"));
+    vesk::gui::test::saveScreenshot(viewer, QStringLiteral("help_viewer_hoses"));
+    // The same window takes the next topic.
+    QCOMPARE(HelpViewer::showTopic(file, "Option Menu\\Pumps.htm"), viewer);
+    QCOMPARE(viewer->browser()->documentTitle(), QStringLiteral("Pumps"));
+}
+
+void HelpViewerTest::linksStylesheetsAndTheContentsPageAreFollowedInsideTheFile() {
+    const std::filesystem::path file = vesk::test::shippedDataDir() / "VeskHelpFile.chm";
+    HelpViewer* viewer = HelpViewer::showTopic(file, "Option Menu\\Pumps.htm");
+    QVERIFY(viewer != nullptr);
+    QTextBrowser* browser = viewer->browser();
+    // The stylesheet of the page, a relative link with blanks in its name.
+    QVERIFY(!browser->loadResource(QTextDocument::StyleSheetResource, browser->source().resolved(QUrl("../vesk.css")))
+                 .toString()
+                 .isEmpty());
+    emit browser->anchorClicked(QUrl(QStringLiteral("../Main Functionality/Pump Area.htm")));
+    QCOMPARE(viewer->currentPath(), QStringLiteral("/Main Functionality/Pump Area.htm"));
+    QCOMPARE(browser->documentTitle(), QStringLiteral("Pump Area"));
+    viewer->findChild<QPushButton*>(QStringLiteral("cmdHelpBack"))->click();
+    QCOMPARE(viewer->currentPath(), QStringLiteral("/Option Menu/Pumps.htm"));
+    viewer->findChild<QPushButton*>(QStringLiteral("cmdHelpContents"))->click();
+    QCOMPARE(viewer->currentPath(), QStringLiteral("/Contents.htm"));
+    QVERIFY(browser->toPlainText().contains(QStringLiteral("Update")));
+}
+
+void HelpViewerTest::aFileThatIsNoHelpFileOpensNothing() {
+    const TempProgramFolder folder;
+    folder.write("VeskHelpFile.chm", "not a help file");
+    QVERIFY(HelpViewer::showTopic(folder.path() / "VeskHelpFile.chm", "Option Menu\\Pumps.htm") == nullptr);
+    QApplication::processEvents();
+    QVERIFY(HelpViewer::instance() == nullptr || !HelpViewer::instance()->isVisible());
+}
+
+QTEST_MAIN(HelpViewerTest)
+#include "help_viewer_test.moc"
