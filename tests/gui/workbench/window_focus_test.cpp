@@ -195,6 +195,26 @@ class WindowFocusTest : public QObject {
         QCOMPARE(s.app.results.Current.GpmPerNozzle.size(), std::size_t{23});
     }
 
+    void anAreaButtonRunsTheCheckOfTheFieldItHides_data() {
+        QTest::addColumn<bool>("byScreenReader");
+        QTest::newRow("mouse") << false;
+        QTest::newRow("screen reader") << true;
+    }
+    void anAreaButtonRunsTheCheckOfTheFieldItHides() {
+        QFETCH(bool, byScreenReader);
+        Station& s = shownStation();
+        typeAndStay(s, "txtNoOfNozzle", QStringLiteral("20"));
+        if (byScreenReader) {
+            pressByAssistiveTechnology(s.find("cmdPump"));
+        } else {
+            QTest::mouseClick(s.find("cmdPump"), Qt::LeftButton);
+        }
+        QCOMPARE(s.app.ChartNozzles, 22);
+        pressByAssistiveTechnology(s.find("cmdCalculate"));
+        QVERIFY(livesOn(s));
+        QCOMPARE(s.app.results.Current.GpmPerNozzle.size(), std::size_t{23});
+    }
+
     void anEmptyLengthLeftForAPageOfTheGridsBecomesZero() {
         Station& s = shownStation();
         typeAndStay(s, "txtHoseLen", QString());
