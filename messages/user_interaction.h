@@ -42,6 +42,9 @@ class UserInteraction {
     virtual Answer askYesNoCancel(std::string_view /*text*/) { return Answer::Cancel; }
     // A question with Yes and No. Where nobody can answer, No.
     virtual Answer askYesNo(std::string_view /*text*/) { return Answer::No; }
+    // A question with Ok and Cancel: true for Ok. Where nobody can answer,
+    // Cancel.
+    virtual bool askOkCancel(std::string_view /*text*/) { return false; }
     // A file dialog: the full path chosen, or nothing for Cancel. Where nobody
     // can answer, Cancel.
     virtual std::optional<std::string> chooseFile(const FileDialogRequest& /*request*/) { return std::nullopt; }

@@ -33,6 +33,12 @@ Answer RecordingInteraction::askYesNo(std::string_view text) {
     return nextAnswer(answers, Answer::No);
 }
 
+bool RecordingInteraction::askOkCancel(std::string_view text) {
+    shown.emplace_back(text);
+    icons.push_back(MessageIcon::None);
+    return nextAnswer(answers, Answer::Cancel) == Answer::Yes;
+}
+
 std::optional<std::string> RecordingInteraction::chooseFile(const FileDialogRequest& request) {
     fileDialogs.push_back(request);
     if (chosenFiles.empty()) {

@@ -17,6 +17,9 @@ class RecordingInteraction : public UserInteraction {
     // script in order; with the script used up, Cancel (or No).
     Answer askYesNoCancel(std::string_view text) override;
     Answer askYesNo(std::string_view text) override;
+    // An Ok and Cancel question takes its answer from the same script: Yes
+    // stands for Ok, anything else for Cancel.
+    bool askOkCancel(std::string_view text) override;
     // File dialogs are recorded, and answered from their own script in order
     // (nullopt is Cancel); with the script used up, Cancel.
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
