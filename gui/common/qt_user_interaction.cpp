@@ -75,6 +75,12 @@ Answer QtUserInteraction::askYesNo(std::string_view text) {
     return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
+bool QtUserInteraction::askOkCancel(std::string_view text) {
+    const auto button =
+        ask(m_parent, text, QMessageBox::NoIcon, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
+    return button == QMessageBox::Ok; // Cancel, Escape or the close box
+}
+
 std::optional<std::string> QtUserInteraction::chooseFile(const FileDialogRequest& request) {
     // Paths travel as the file system's own bytes.
     QFileDialog dialog(m_parent, fromWindows1252(request.title), QFile::decodeName(request.startFolder.c_str()),

@@ -33,6 +33,7 @@ class QtUserInteraction : public UserInteraction {
     void showMessageBox(std::string_view text, MessageIcon icon) override;
     Answer askYesNoCancel(std::string_view text) override;
     Answer askYesNo(std::string_view text) override;
+    bool askOkCancel(std::string_view text) override;
     std::optional<std::string> chooseFile(const FileDialogRequest& request) override;
     // The printer dialog, QPrintDialog: a printer or a PDF file, or nothing for Cancel.
     std::optional<PrinterChoice> choosePrinter() override;

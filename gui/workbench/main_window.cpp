@@ -6,6 +6,7 @@
 #include "gui/common/field_filters.h"
 #include "gui/common/help_keys.h"
 #include "gui/common/run_event.h"
+#include "gui/editors/editor_menu.h"
 #include "gui/reports/preview_pages.h"
 #include "gui/workbench/area_widgets.h"
 #include "gui/workbench/areas.h"
@@ -14,9 +15,10 @@
 #include "gui/workbench/results_panel.h"
 #include "gui/workbench/site_properties_dialog.h"
 #include "gui/workbench/update_dialog.h"
-#include "messages/help_topics.h"
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
+
+#include "messages/help_topics.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -136,9 +138,10 @@ void MainWindow::buildMenus() {
             refreshAll();
         }
     });
-    onTriggered(help, "mnuF1", [this] {
-        ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui);
-    });
+    // Dispensers … Hoses: the component editors; after an Ok the lists are refilled.
+    new ComponentEditorMenu(*this, m_context.app, m_context.ui, m_context.runEvent, [this] { refreshAll(); });
+    onTriggered(help, "mnuF1",
+                [this] { ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui); });
     new HelpKeys(*this, m_context.app.programFolder, m_context.ui);
 }
 
