@@ -15,10 +15,9 @@
 #include "gui/workbench/results_panel.h"
 #include "gui/workbench/site_properties_dialog.h"
 #include "gui/workbench/update_dialog.h"
+#include "messages/help_topics.h"
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
-
-#include "messages/help_topics.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -140,8 +139,9 @@ void MainWindow::buildMenus() {
     });
     // Dispensers … Hoses: the component editors; after an Ok the lists are refilled.
     new ComponentEditorMenu(*this, m_context.app, m_context.ui, m_context.runEvent, [this] { refreshAll(); });
-    onTriggered(help, "mnuF1",
-                [this] { ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui); });
+    onTriggered(help, "mnuF1", [this] {
+        ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui);
+    });
     new HelpKeys(*this, m_context.app.programFolder, m_context.ui);
 }
 
