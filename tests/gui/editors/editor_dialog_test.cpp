@@ -128,7 +128,7 @@ class EditorDialogTest : public QObject {
         QVERIFY(dialog->isVisible());
     }
 
-    void aPressOnClearNeverRaisesANameMessage() {
+    void aPressOnClearNeverRaisesANameOrCellMessage() {
         auto dialog = openEditor(*m_station, ComponentKind::Breakaway);
         press(dialog.get(), "cmdBRKAdd");
         auto* name = child<QLineEdit>(dialog.get(), "txtBRKName");
@@ -138,6 +138,15 @@ class EditorDialogTest : public QObject {
         QVERIFY(m_station->ui.shown.empty());
         QVERIFY(name->text().isEmpty());
         QVERIFY(!dialog->editor().skipNameCheck());
+        // Nor a cell message, with a refused number in the grid.
+        press(dialog.get(), "cmdBRKAdd");
+        QTest::keyClicks(name, QStringLiteral("Named"));
+        QTableWidget* grid = gridOf(dialog.get());
+        typeCell(grid, 0, 1, QStringLiteral("99999"));
+        QCOMPARE(QApplication::focusWidget(), grid);
+        press(dialog.get(), "cmdBRKClear");
+        QVERIFY(m_station->ui.shown.empty());
+        QCOMPARE(grid->rowCount(), 13);
         // The next check runs as always.
         press(dialog.get(), "cmdBRKAdd");
         QTest::keyClicks(name, QStringLiteral(" x"));
