@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// The pump editor in metric units: opening it (the pump catalogue to metric) and Ok (back to US, the file written, the lists refilled).
+// The pump editor in metric units: opening it (the pump catalogue to metric) and Ok (back to US, the file written, the
+// lists refilled).
 #include "bench_support.h"
-
 #include "editors/component_editor.h"
 #include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>
-
 #include <filesystem>
 #include <fstream>
 #include <memory>

@@ -156,9 +156,9 @@ void ComponentEditorDialog::build() {
     middle->addStretch(1);
 
     auto* top = new QHBoxLayout;
-    top->addLayout(left, 3);
-    top->addLayout(middle, 2);
-    top->addWidget(buildGrid(), 3);
+    top->addLayout(left, 5);
+    top->addLayout(middle, 3);
+    top->addWidget(buildGrid(), 4);
 
     auto* helpFrame = new QGroupBox(QStringLiteral("Help"));
     helpFrame->setObjectName(name("fra", "Help"));
@@ -172,7 +172,7 @@ void ComponentEditorDialog::build() {
     layout->addLayout(top, 1);
     layout->addWidget(buildButtons());
     layout->addWidget(helpFrame);
-    resize(720, 520);
+    resize(800, 520);
 }
 
 QWidget* ComponentEditorDialog::buildOptions() {
