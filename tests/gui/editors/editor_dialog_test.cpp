@@ -6,6 +6,7 @@
 #include "catalogue/component_file.h"
 #include "engine/numeric.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -197,6 +198,15 @@ class EditorDialogTest : public QObject {
         QCOMPARE(grid->currentColumn(), 0);
         QTest::keyClick(grid, Qt::Key_Right);
         QCOMPARE(grid->currentColumn(), 1);
+        // A screen reader reads the cells, their columns and the current cell.
+        QAccessibleInterface* table = QAccessible::queryAccessibleInterface(grid);
+        QVERIFY(table != nullptr && table->tableInterface() != nullptr);
+        QCOMPARE(table->tableInterface()->rowCount(), 2);
+        QCOMPARE(table->tableInterface()->cellAt(0, 0)->text(QAccessible::Name), QStringLiteral("12.5"));
+        QCOMPARE(table->tableInterface()->columnDescription(1), QStringLiteral("TDH - Feet"));
+        const QList<QAccessibleInterface*> selected = table->tableInterface()->selectedCells();
+        QCOMPARE(selected.size(), 1);
+        QCOMPARE(selected[0]->tableCellInterface()->columnIndex(), 1);
     }
 
     void aRefusedCellTakesTheCursorBack() {
