@@ -14,9 +14,11 @@
 #include "gui/workbench/results_panel.h"
 #include "gui/workbench/site_properties_dialog.h"
 #include "gui/workbench/update_dialog.h"
-#include "messages/help_topics.h"
+#include "gui/workbench/window_size.h"
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
+
+#include "messages/help_topics.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -26,6 +28,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -45,6 +48,7 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     layout->addWidget(buildLeftPart(), 0);
     layout->addWidget(m_results, 1);
     setCentralWidget(central);
+    resize(OpeningWindowSize(screen()->availableGeometry()));
 
     connect(m_controls, &PanelControls::controlEntered, this, [this](bool dispensing, bool pump) {
         clearRecommendationLists(dispensing, pump);
@@ -136,9 +140,8 @@ void MainWindow::buildMenus() {
             refreshAll();
         }
     });
-    onTriggered(help, "mnuF1", [this] {
-        ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui);
-    });
+    onTriggered(help, "mnuF1",
+                [this] { ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui); });
     new HelpKeys(*this, m_context.app.programFolder, m_context.ui);
 }
 
