@@ -130,8 +130,6 @@ ChartAdapter::ChartAdapter(QChart* chart, QObject* parent)
     // The axis draws the ticks and the grid; the labels and the title are ours.
     m_rowAxis->setLabelsVisible(false);
     m_rowAxis->setTitleVisible(false);
-    m_rowTitle->setFont(m_rowAxis->titleFont());
-    m_rowTitle->setBrush(m_rowAxis->titleBrush());
     connect(m_chart, &QChart::plotAreaChanged, this, [this] { layOutRowAxis(); });
     m_valueAxis->setLabelFormat(QStringLiteral("%g"));
     m_valueAxis->setTickType(QValueAxis::TicksDynamic);
@@ -159,9 +157,7 @@ void ChartAdapter::setRows(const ChartRows& rows) {
     for (qsizetype row = 0; row < rows.labels.size(); row += every) {
         const qreal x = rows.firstX + static_cast<qreal>(row);
         m_rowAxis->append(rows.labels[row], x);
-        auto* label = new QGraphicsSimpleTextItem(rows.labels[row], m_chart);
-        label->setBrush(m_rowAxis->labelsBrush());
-        m_rowLabels.append(label);
+        m_rowLabels.append(new QGraphicsSimpleTextItem(rows.labels[row], m_chart));
         m_rowLabelX.append(x);
     }
     m_rowAxis->setRange(rows.minimum, std::max(rows.maximum, rows.minimum + 1));
@@ -232,6 +228,7 @@ void ChartAdapter::layOutRowAxis() {
         const qreal x = xOf(label);
         item->setVisible(x >= plot.left() - 0.5 && x <= plot.right() + 0.5);
         item->setFont(font);
+        item->setBrush(m_rowAxis->labelsBrush());
         const qreal width = metrics.horizontalAdvance(item->text());
         if (onEnd) {
             item->setRotation(-90);
@@ -241,6 +238,9 @@ void ChartAdapter::layOutRowAxis() {
             item->setPos(x - width / 2, labelsTop);
         }
     }
+    // In the look the chart's theme gives the axis.
+    m_rowTitle->setFont(m_rowAxis->titleFont());
+    m_rowTitle->setBrush(m_rowAxis->titleBrush());
     const QRectF title = m_rowTitle->boundingRect();
     const qreal titleTop = labelsTop + labelsHeight + titleGap;
     m_rowTitle->setPos(plot.center().x() - title.width() / 2, titleTop);

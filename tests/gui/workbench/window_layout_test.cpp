@@ -63,6 +63,38 @@ QList<ChartText> rowLabelsShown(const QChart* chart, const QString& axisTitle) {
     return shown;
 }
 
+// The axis title under the labels: drawn, whole and inside the view.
+void verifyTitleUnder(const QChart* chart, const QString& axisTitle, const QList<ChartText>& labels,
+                      const QChartView* view) {
+    const QRectF visible = view->mapToScene(view->viewport()->rect()).boundingRect();
+    int titles = 0;
+    for (QGraphicsItem* item : chart->scene()->items()) {
+        QRectF rect;
+        bool drawn = false;
+        if (const auto* simple = dynamic_cast<const QGraphicsSimpleTextItem*>(item);
+            simple != nullptr && simple->text() == axisTitle) {
+            rect = simple->sceneBoundingRect();
+            drawn = simple->brush().style() != Qt::NoBrush && simple->brush().color().alpha() > 0;
+        } else if (const auto* rich = dynamic_cast<const QGraphicsTextItem*>(item);
+                   rich != nullptr && rich->toPlainText() == axisTitle) {
+            rect = rich->sceneBoundingRect();
+            drawn = rich->defaultTextColor().alpha() > 0;
+        } else {
+            continue;
+        }
+        if (!item->isVisible()) {
+            continue;
+        }
+        ++titles;
+        QVERIFY(drawn);
+        QVERIFY(visible.contains(rect));
+        for (const ChartText& label : labels) {
+            QVERIFY2(rect.top() >= label.rect.bottom(), qPrintable(label.text));
+        }
+    }
+    QCOMPARE(titles, 1);
+}
+
 QStringList textsOf(const QList<ChartText>& shown) {
     QStringList texts;
     for (const ChartText& text : shown) {
@@ -264,6 +296,7 @@ class WindowLayoutTest : public QObject {
         const QList<ChartText> shown = rowLabelsShown(adapter.chart(), adapter.rowAxis()->titleText());
         QCOMPARE(textsOf(shown), rows);
         verifyReadable(shown, s.find<QChartView>("MSChart1"));
+        verifyTitleUnder(adapter.chart(), adapter.rowAxis()->titleText(), shown, s.find<QChartView>("MSChart1"));
         // The markers stand clear of each other and of the labels.
         for (int column = 0; column < ChartAdapter::columnCount; ++column) {
             const QList<QRectF> markers = markerRects(adapter, column);
@@ -300,6 +333,7 @@ class WindowLayoutTest : public QObject {
         const QList<ChartText> shown = rowLabelsShown(adapter.chart(), adapter.rowAxis()->titleText());
         QCOMPARE(textsOf(shown), adapter.rowAxis()->categoriesLabels());
         verifyReadable(shown, s.find<QChartView>("MSChart2"));
+        verifyTitleUnder(adapter.chart(), adapter.rowAxis()->titleText(), shown, s.find<QChartView>("MSChart2"));
     }
 
     void aPointOnTheAxisMaximumIsDrawnWhole() {
