@@ -3,11 +3,13 @@
 // What Save writes from the grid and what Open sets on the panels: the site file and the main window.
 #include "workbench/site_file.h"
 
-#include "catalogue/component_lists.h"
-#include "site/boolean_text.h"
 #include "workbench/calculate.h"
+#include "workbench/panel_events.h"
 #include "workbench/panel_fields.h"
 #include "workbench/startup.h"
+
+#include "catalogue/component_lists.h"
+#include "site/boolean_text.h"
 
 #include <filesystem>
 #include <string_view>
@@ -287,7 +289,7 @@ bool OpenSiteFile(ApplicationState& app, const std::string& fileName, UserIntera
     app.window.mnuOptionsEnabled = true;
     app.window.mnuSaveEnabled = true;
     app.window.mnuSaveAsEnabled = true;
-    app.window.focusRequest = "txtNoOfNozzle";
+    GiveFocus(app.window, "txtNoOfNozzle");
     return true;
 }
 

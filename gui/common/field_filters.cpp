@@ -5,9 +5,12 @@
 
 #include "gui/common/text_codec.h"
 
+#include <QAbstractButton>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWidget>
+#include <utility>
 
 namespace vesk::gui {
 
@@ -39,6 +42,10 @@ std::optional<int> KeyCodeOf(const QKeyEvent& event) {
 }
 
 bool MovesToAnotherControl(Qt::FocusReason reason) {
+    return MovedByUser(reason) || reason == Qt::OtherFocusReason;
+}
+
+bool MovedByUser(Qt::FocusReason reason) {
     switch (reason) {
     case Qt::MouseFocusReason:
     case Qt::TabFocusReason:
@@ -51,12 +58,73 @@ bool MovesToAnotherControl(Qt::FocusReason reason) {
     }
 }
 
+namespace {
+
+// The press of a command button, told apart by whether the mouse made it: a
+// mouse press has moved the focus already, and the check has run.
+class CheckedCommand : public QObject {
+  public:
+    CheckedCommand(QAbstractButton* button, std::function<void()> command)
+        : QObject(button), m_button(button), m_command(std::move(command)) {
+        button->installEventFilter(this);
+        connect(button, &QAbstractButton::clicked, this, &CheckedCommand::pressed);
+    }
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) {
+            m_pressedByMouse = true;
+        }
+        return false;
+    }
+
+  private:
+    void pressed() {
+        const bool byMouse = std::exchange(m_pressedByMouse, false);
+        if (byMouse ? focusIsOnTheButton() : takeFocus()) {
+            m_command();
+        }
+    }
+
+    bool focusIsOnTheButton() const { return m_button->window()->focusWidget() == m_button; }
+
+    // The focus moved to the button by the program, which runs the check of
+    // the field left; an inactive window sends no focus events, so there the
+    // field is left by hand.
+    bool takeFocus() {
+        QWidget* left = m_button->window()->focusWidget();
+        if (left == m_button) {
+            return true;
+        }
+        if (!m_button->isActiveWindow()) {
+            auto* filter =
+                left != nullptr ? left->findChild<FieldFilter*>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+            if (filter != nullptr && filter->checkPending() && filter->leave()) {
+                return false;
+            }
+        }
+        m_button->setFocus(Qt::OtherFocusReason);
+        return focusIsOnTheButton();
+    }
+
+    QAbstractButton* m_button;
+    std::function<void()> m_command;
+    bool m_pressedByMouse = false;
+};
+
+} // namespace
+
+void ConnectCheckedCommand(QAbstractButton* button, std::function<void()> command) {
+    new CheckedCommand(button, std::move(command));
+}
+
 FieldFilter::FieldFilter(QLineEdit* field, FieldRule rule) : QObject(field), m_field(field), m_rule(std::move(rule)) {
     field->installEventFilter(this);
 }
 
 bool FieldFilter::leave() {
     if (!m_rule.check || !m_rule.check()) {
+        m_checkPending = false;
         return false;
     }
     m_field->setFocus(Qt::OtherFocusReason);
@@ -67,11 +135,15 @@ bool FieldFilter::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_field) {
         return false;
     }
-    if (event->type() == QEvent::KeyPress && m_rule.keys) {
+    if (event->type() == QEvent::FocusIn) {
+        m_checkPending = true;
+    }
+    if (event->type() == QEvent::KeyPress) {
         const std::optional<int> code = KeyCodeOf(*static_cast<QKeyEvent*>(event));
-        if (code && !KeyPasses(*m_rule.keys, *code, toWindows1252(m_field->text()))) {
+        if (m_rule.keys && code && !KeyPasses(*m_rule.keys, *code, toWindows1252(m_field->text()))) {
             return true; // the key is thrown away
         }
+        m_checkPending = true;
     }
     if (event->type() == QEvent::FocusOut && MovesToAnotherControl(static_cast<QFocusEvent*>(event)->reason())) {
         leave();
@@ -85,7 +157,7 @@ FocusFilter::FocusFilter(QWidget* control, Handlers handlers) : QObject(control)
 
 bool FocusFilter::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (event->type() == QEvent::FocusIn && m_handlers.entered) {
-        m_handlers.entered();
+        m_handlers.entered(static_cast<QFocusEvent*>(event)->reason());
     }
     if (event->type() == QEvent::FocusOut && m_handlers.left) {
         m_handlers.left(static_cast<QFocusEvent*>(event)->reason());

@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 
+class QAbstractButton;
 class QKeyEvent;
 class QLineEdit;
 class QWidget;
@@ -45,23 +46,28 @@ class FieldFilter : public QObject {
     // Returns whether the focus goes back.
     bool leave();
 
+    // Whether the field was entered or typed into since its check last let
+    // it go.
+    bool checkPending() const { return m_checkPending; }
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QLineEdit* m_field;
     FieldRule m_rule;
+    bool m_checkPending = false;
 };
 
 // An event filter for the controls whose getting or losing the focus does
-// something: the area buttons, the grids, the lists of the Pump Area. `left`
-// gets the reason of the loss of focus (Tab, Shift+Tab, mouse …).
+// something: the area buttons, the grids, the lists of the Pump Area. Both
+// handlers get the reason of the move (Tab, Shift+Tab, mouse …).
 class FocusFilter : public QObject {
     Q_OBJECT
 
   public:
     struct Handlers {
-        std::function<void()> entered;
+        std::function<void(Qt::FocusReason)> entered;
         std::function<void(Qt::FocusReason)> left;
     };
 
@@ -76,7 +82,20 @@ class FocusFilter : public QObject {
 
 // Whether a loss of focus for this reason moves the focus to another control
 // of the window (and so runs a check), rather than to a menu, a pop-up or
-// another window.
+// another window. The program moving the focus itself (a page of the grids, a
+// screen reader's set-focus, the focus after Open) counts: no number leaves
+// a field unchecked.
 bool MovesToAnotherControl(Qt::FocusReason reason);
+
+// Whether the user moved the focus for this reason (a click, Tab, Shift+Tab,
+// a shortcut), rather than the program or the window system.
+bool MovedByUser(Qt::FocusReason reason);
+
+// Connects a command button so that its command runs only on text the checks
+// have seen. However the button is pressed (the mouse, the keyboard, a screen
+// reader's press, which moves no focus) the focus moves to it first, as a
+// click of the mouse moves it, and so the check of the field being left runs;
+// a field that refuses its text keeps the focus, and the command does not run.
+void ConnectCheckedCommand(QAbstractButton* button, std::function<void()> command);
 
 } // namespace vesk::gui

@@ -114,10 +114,12 @@ QLabel* PanelControls::unitLabel(const char* fieldName) {
 
 void PanelControls::watchFocus(QWidget* control) {
     const QString name = control->objectName();
-    new FocusFilter(control, {[this, name] {
+    new FocusFilter(control, {[this, name](Qt::FocusReason reason) {
+                                  const FocusMove move = MovedByUser(reason) ? FocusMove::ByUser : FocusMove::ByProgram;
                                   RecommendationClears clears;
                                   m_context.runEvent([&] {
-                                      clears = EnterControl(m_context.app.panel, m_context.app.window, toWindows1252(name));
+                                      clears = EnterControl(m_context.app.panel, m_context.app.window,
+                                                            toWindows1252(name), move);
                                   });
                                   emit controlEntered(clears.lstDispensing, clears.lstPump);
                               },

@@ -84,10 +84,11 @@ ResultsPanel::ResultsPanel(WindowContext& context, QWidget* parent)
         buttons->addWidget(button);
     }
     layout->addLayout(buttons);
-    connect(cmdCalculate, &QPushButton::clicked, this, &ResultsPanel::calculate);
-    connect(baseLine, &QPushButton::clicked, this, &ResultsPanel::makeBaseline);
-    connect(cmdBackToBaseLine, &QPushButton::clicked, this, &ResultsPanel::backToBaseline);
-    connect(cmdDetails, &QPushButton::clicked, this, &ResultsPanel::showDetails);
+    // Each of them sweeps, so none runs on text the checks have not seen.
+    ConnectCheckedCommand(cmdCalculate, [this] { calculate(); });
+    ConnectCheckedCommand(baseLine, [this] { makeBaseline(); });
+    ConnectCheckedCommand(cmdBackToBaseLine, [this] { backToBaseline(); });
+    ConnectCheckedCommand(cmdDetails, [this] { showDetails(); });
 
     m_tabCurrentBaseline->addTab(m_flxCurrent, QStringLiteral("Current "));
     m_tabCurrentBaseline->addTab(m_flxBaseLine, QStringLiteral("BaseLine "));

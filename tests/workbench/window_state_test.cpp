@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // What the controls of the areas do when clicked, entered and left, and the site picture.
-#include "support/started_app.h"
 #include "support/failure_of.h"
-
+#include "support/started_app.h"
 #include "workbench/panel_events.h"
 #include "workbench/site_file.h"
 #include "workbench/site_picture.h"
@@ -94,6 +93,28 @@ TEST_F(WindowStateTest, OptBasicGettingTheFocusChoosesBasic) {
     EXPECT_FALSE(panel().optAdvance);
 }
 
+TEST_F(WindowStateTest, OptBasicGettingTheFocusFromTheProgramKeepsThePipingMode) {
+    ChoosePipingMode(panel(), false);
+    const RecommendationClears clears = EnterControl(panel(), window(), "optBasic", FocusMove::ByProgram);
+    EXPECT_FALSE(panel().optBasic);
+    EXPECT_TRUE(panel().optAdvance);
+    EXPECT_FALSE(clears.lstDispensing);
+}
+
+TEST_F(WindowStateTest, AFocusFromTheProgramStillClearsTheRecommendationLists) {
+    EXPECT_TRUE(EnterControl(panel(), window(), "txtNoOfNozzle", FocusMove::ByProgram).lstDispensing);
+    EXPECT_TRUE(EnterControl(panel(), window(), "cmbPumps", FocusMove::ByProgram).lstPump);
+}
+
+TEST(AreaOfControl, FindsTheAreaOfEveryFieldAndListAndNothingElse) {
+    EXPECT_EQ(AreaOfControl("txtNoOfNozzle"), Area::Dispensing);
+    EXPECT_EQ(AreaOfControl("txtTrunkLength"), Area::Piping);
+    EXPECT_EQ(AreaOfControl("cmbQuantity"), Area::Pump);
+    EXPECT_EQ(AreaOfControl("txtTankDiameter"), Area::SiteLayout);
+    EXPECT_EQ(AreaOfControl("cmbNoOfBranches"), Area::SiteLayout);
+    EXPECT_EQ(AreaOfControl("cmdCalculate"), std::nullopt);
+}
+
 TEST_F(WindowStateTest, AnAreaButtonShowsItsAreaAndClearsBothLists) {
     const RecommendationClears clears = ClickAreaButton(window(), Area::Pump);
     EXPECT_EQ(window().tabMain, Area::Pump);
@@ -143,6 +164,15 @@ TEST_F(WindowStateTest, AnOpenedSiteAsksForThePictureTheMenusAndTheNozzleField) 
     EXPECT_TRUE(window().sitePictureDue);
     EXPECT_TRUE(window().mnuSaveEnabled);
     EXPECT_EQ(window().focusRequest, std::optional<std::string>("txtNoOfNozzle"));
+}
+
+TEST_F(WindowStateTest, AnOpenedSiteShowsTheNozzleFieldFromAnyArea) {
+    for (const Area shown : {Area::Dispensing, Area::Piping, Area::Pump, Area::SiteLayout}) {
+        window().tabMain = shown;
+        const std::string site = (folder.path() / "SaveSiteInfo" / "SmallGasStation.txt").string();
+        ASSERT_TRUE(OpenSiteFile(started.app, site, started.ui));
+        EXPECT_EQ(window().tabMain, Area::Dispensing);
+    }
 }
 
 TEST_F(WindowStateTest, AFailedOpenAsksForNothing) {

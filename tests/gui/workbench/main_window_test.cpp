@@ -908,7 +908,7 @@ class MainWindowTest : public QObject {
         QVERIFY(near(pictureColourShown(), sitePictureColour(1, 3)));
         // A new quantity shows once the focus leaves the list.
         auto* quantity = s.find<QComboBox>("cmbQuantity");
-        s.find<QTabWidget>("tabMain")->setCurrentIndex(2);
+        s.click("cmdPump");
         quantity->setFocus(Qt::MouseFocusReason);
         s.choose("cmbQuantity", 3);
         QVERIFY(near(pictureColourShown(), sitePictureColour(1, 3)));
