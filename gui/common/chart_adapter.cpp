@@ -9,6 +9,9 @@
 #include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGraphicsSimpleTextItem>
 #include <QLineSeries>
 #include <QPen>
 #include <QScatterSeries>
@@ -21,6 +24,29 @@ namespace {
 
 constexpr qreal lineWidth = 2;
 constexpr int fifths = 5;
+
+// The row axis under the plot, in pixels: the ticks and the space below them,
+// the space between two labels, between the labels and the title, and left
+// free under the title and beside the outer labels.
+constexpr qreal tickRoom = 7;
+constexpr qreal labelGap = 3;
+constexpr qreal titleGap = 3;
+constexpr qreal edgeRoom = 2;
+
+// A font like `font`, `pixels` high.
+QFont sizedFont(QFont font, int pixels) {
+    font.setPixelSize(pixels);
+    return font;
+}
+
+qreal widestText(const QFont& font, const QList<QGraphicsSimpleTextItem*>& items) {
+    const QFontMetricsF metrics(font);
+    qreal widest = 0;
+    for (const QGraphicsSimpleTextItem* item : items) {
+        widest = std::max(widest, metrics.horizontalAdvance(item->text()));
+    }
+    return widest;
+}
 
 QScatterSeries::MarkerShape shapeOf(MarkerStyle style) {
     switch (style) {
@@ -97,9 +123,14 @@ void ShowPumpCurve(ChartAdapter& adapter, const PumpCurveChart& curve) {
 }
 
 ChartAdapter::ChartAdapter(QChart* chart, QObject* parent)
-    : QObject(parent), m_chart(chart), m_rowAxis(new QCategoryAxis), m_valueAxis(new QValueAxis) {
+    : QObject(parent), m_chart(chart), m_rowAxis(new QCategoryAxis), m_valueAxis(new QValueAxis),
+      m_rowTitle(new QGraphicsSimpleTextItem(chart)), m_baseMargins(chart->margins()) {
     m_chart->legend()->hide();
     m_rowAxis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    // The axis draws the ticks and the grid; the labels and the title are ours.
+    m_rowAxis->setLabelsVisible(false);
+    m_rowAxis->setTitleVisible(false);
+    connect(m_chart, &QChart::plotAreaChanged, this, [this] { layOutRowAxis(); });
     m_valueAxis->setLabelFormat(QStringLiteral("%g"));
     m_valueAxis->setTickType(QValueAxis::TicksDynamic);
     m_valueAxis->setTickAnchor(0);
@@ -114,22 +145,129 @@ void ChartAdapter::setTitle(const QString& title) {
 void ChartAdapter::setRows(const ChartRows& rows) {
     m_firstX = rows.firstX;
     m_rowAxis->setTitleText(rows.title);
+    m_rowTitle->setText(rows.title);
     for (const QString& label : m_rowAxis->categoriesLabels()) {
         m_rowAxis->remove(label);
     }
+    qDeleteAll(m_rowLabels);
+    m_rowLabels.clear();
+    m_rowLabelX.clear();
     m_rowAxis->setStartValue(rows.minimum);
     const int every = std::max(rows.labelEvery, 1);
     for (qsizetype row = 0; row < rows.labels.size(); row += every) {
-        m_rowAxis->append(rows.labels[row], rows.firstX + static_cast<qreal>(row));
+        const qreal x = rows.firstX + static_cast<qreal>(row);
+        m_rowAxis->append(rows.labels[row], x);
+        m_rowLabels.append(new QGraphicsSimpleTextItem(rows.labels[row], m_chart));
+        m_rowLabelX.append(x);
     }
     m_rowAxis->setRange(rows.minimum, std::max(rows.maximum, rows.minimum + 1));
+    layOutRowAxis();
 }
 
 void ChartAdapter::setValueAxis(const ChartValueAxis& axis) {
     m_valueAxis->setTitleText(axis.title);
-    const qreal maximum = axis.maximum > 0 ? axis.maximum : 1;
-    m_valueAxis->setRange(0, maximum);
-    m_valueAxis->setTickInterval(axis.step > 0 ? axis.step : maximum / fifths);
+    m_valueMaximum = axis.maximum > 0 ? axis.maximum : 1;
+    m_valueAxis->setTickInterval(axis.step > 0 ? axis.step : m_valueMaximum / fifths);
+    fitValueRange();
+}
+
+void ChartAdapter::fitValueRange() {
+    qreal overhang = lineWidth / 2;
+    for (const ColumnSeries& column : m_columns) {
+        if (column.markers != nullptr) {
+            overhang = std::max(overhang, column.markers->markerSize() / 2 + column.markers->pen().widthF());
+        }
+    }
+    const qreal height = m_chart->plotArea().height();
+    qreal top = m_valueMaximum;
+    if (height > 4 * overhang) {
+        // The maximum stands `overhang` pixels under the top of the plot.
+        top = m_valueMaximum * height / (height - overhang);
+    }
+    if (std::abs(m_valueAxis->max() - top) > m_valueMaximum * 1e-9 || m_valueAxis->min() != 0) {
+        m_valueAxis->setRange(0, top);
+    }
+}
+
+void ChartAdapter::layOutRowAxis() {
+    const QRectF plot = m_chart->plotArea();
+    const qreal span = m_rowAxis->max() - m_rowAxis->min();
+    if (plot.width() <= 0 || span <= 0) {
+        return;
+    }
+    const qreal pixelsPerRow = plot.width() / span;
+    const auto xOf = [&](qsizetype label) {
+        return plot.left() + (m_rowLabelX[label] - m_rowAxis->min()) * pixelsPerRow;
+    };
+
+    // The largest font, from the axis's own down to the smallest readable one,
+    // in which the widest label leaves a gap to the next; else the axis's own
+    // font on end.
+    const QFont axisFont = m_rowAxis->labelsFont();
+    const int axisPixels = QFontInfo(axisFont).pixelSize();
+    qreal spacing = plot.width();
+    for (qsizetype label = 1; label < m_rowLabels.size(); ++label) {
+        spacing = std::min(spacing, xOf(label) - xOf(label - 1));
+    }
+    QFont font = axisFont;
+    bool onEnd = true;
+    for (int pixels = axisPixels; pixels >= smallestRowLabelPixels; --pixels) {
+        if (widestText(sizedFont(axisFont, pixels), m_rowLabels) + labelGap <= spacing) {
+            font = sizedFont(axisFont, pixels);
+            onEnd = false;
+            break;
+        }
+    }
+    const QFontMetricsF metrics(font);
+    const qreal labelsHeight = onEnd ? widestText(font, m_rowLabels) : metrics.height();
+
+    // Each label centred under its row, whole.
+    const qreal labelsTop = plot.bottom() + tickRoom;
+    for (qsizetype label = 0; label < m_rowLabels.size(); ++label) {
+        QGraphicsSimpleTextItem* item = m_rowLabels[label];
+        const qreal x = xOf(label);
+        item->setVisible(x >= plot.left() - 0.5 && x <= plot.right() + 0.5);
+        item->setFont(font);
+        item->setBrush(m_rowAxis->labelsBrush());
+        const qreal width = metrics.horizontalAdvance(item->text());
+        if (onEnd) {
+            item->setRotation(-90);
+            item->setPos(x - metrics.height() / 2, labelsTop + width);
+        } else {
+            item->setRotation(0);
+            item->setPos(x - width / 2, labelsTop);
+        }
+    }
+    // In the look the chart's theme gives the axis.
+    m_rowTitle->setFont(m_rowAxis->titleFont());
+    m_rowTitle->setBrush(m_rowAxis->titleBrush());
+    const QRectF title = m_rowTitle->boundingRect();
+    const qreal titleTop = labelsTop + labelsHeight + titleGap;
+    m_rowTitle->setPos(plot.center().x() - title.width() / 2, titleTop);
+
+    // The room below the plot for the labels and the title, and beside it for
+    // half the outer labels in the axis's own font; what the chart gives
+    // beyond its margins stays as it is.
+    const QRectF whole = m_chart->rect();
+    const QMargins margins = m_chart->margins();
+    const qreal halfWidest = widestText(axisFont, m_rowLabels) / 2;
+    const auto marginFor = [](int base, int current, qreal given, qreal needed) {
+        const qreal beyondMargin = given - current;
+        return std::max(base, static_cast<int>(std::ceil(needed + base - beyondMargin)));
+    };
+    QMargins wanted = m_baseMargins;
+    wanted.setBottom(marginFor(m_baseMargins.bottom(), margins.bottom(), whole.bottom() - plot.bottom(),
+                               titleTop + title.height() - plot.bottom()));
+    if (!m_rowLabels.isEmpty()) {
+        wanted.setRight(marginFor(m_baseMargins.right(), margins.right(), whole.right() - plot.right(),
+                                  xOf(m_rowLabels.size() - 1) - plot.right() + halfWidest + edgeRoom));
+        wanted.setLeft(marginFor(m_baseMargins.left(), margins.left(), plot.left() - whole.left(),
+                                 plot.left() - xOf(0) + halfWidest + edgeRoom));
+    }
+    if (wanted != margins) {
+        m_chart->setMargins(wanted);
+    }
+    fitValueRange();
 }
 
 void ChartAdapter::setColumn(int column, const ChartColumn& data) {
@@ -182,6 +320,7 @@ void ChartAdapter::setColumn(int column, const ChartColumn& data) {
         });
     }
     restack();
+    fitValueRange();
 }
 
 const QList<QLineSeries*>& ChartAdapter::lineRuns(int column) const {

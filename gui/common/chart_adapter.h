@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QMargins>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -18,6 +19,7 @@
 class QCategoryAxis;
 class QChartView;
 class QChart;
+class QGraphicsSimpleTextItem;
 class QLineSeries;
 class QScatterSeries;
 class QValueAxis;
@@ -58,6 +60,15 @@ struct ChartValueAxis {
 // per run of rows with a value, plus a companion scatter series for the
 // markers (a filled triangle for style 12, a ball for style 14). The adapter
 // owns the series and the two axes of its chart.
+//
+// It also writes the row labels and the row axis title itself. Qt Charts gives
+// a category label 1/(n+1) of the axis less 8 pixels and cuts a longer one to
+// "...", so a flow graph of 40 nozzles would show no number at all; here every
+// label keeps its whole text and the labels take a smaller font, down to
+// `smallestRowLabelPixels`, or stand on end when even that does not fit. And
+// it keeps room above the value maximum for half a marker, since Qt Charts
+// clips the markers to the plot area and a point on the maximum would lose
+// its top.
 class ChartAdapter : public QObject {
     Q_OBJECT
 
@@ -80,6 +91,11 @@ class ChartAdapter : public QObject {
     const QList<QLineSeries*>& lineRuns(int column) const;
     // The markers of a column; empty when the column shows none.
     QScatterSeries* markers(int column) const;
+    // The labels of the rows as they stand under the plot, in the order of the rows.
+    const QList<QGraphicsSimpleTextItem*>& rowLabels() const { return m_rowLabels; }
+
+    // The smallest row label, in pixels, before the labels stand on end.
+    static constexpr int smallestRowLabelPixels = 9;
 
   signals:
     // The mouse rests on (or leaves) the marker of a row of a column.
@@ -94,10 +110,22 @@ class ChartAdapter : public QObject {
     // Puts every series back in the chart in one order: the lines of both
     // columns, then the markers, the second column's above the first's.
     void restack();
+    // Places the row labels and the title under the plot area, in a size
+    // that fits the room between two labels, and keeps the room they need
+    // below the plot and beside its ends.
+    void layOutRowAxis();
+    // The value axis from 0 to its maximum and the few pixels more that the
+    // largest marker needs to be drawn whole on the maximum.
+    void fitValueRange();
 
     QChart* m_chart;
     QCategoryAxis* m_rowAxis;
     QValueAxis* m_valueAxis;
+    QGraphicsSimpleTextItem* m_rowTitle;
+    QList<QGraphicsSimpleTextItem*> m_rowLabels;
+    QList<qreal> m_rowLabelX; // where each label stands on the row axis
+    QMargins m_baseMargins;
+    qreal m_valueMaximum = 1;
     qreal m_firstX = 1;
     std::array<ColumnSeries, columnCount> m_columns;
 };

@@ -15,9 +15,11 @@
 #include "gui/workbench/results_panel.h"
 #include "gui/workbench/site_properties_dialog.h"
 #include "gui/workbench/update_dialog.h"
-#include "messages/help_topics.h"
+#include "gui/workbench/window_size.h"
 #include "workbench/field_checks.h"
 #include "workbench/panel_events.h"
+
+#include "messages/help_topics.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -27,6 +29,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -46,6 +49,7 @@ MainWindow::MainWindow(ApplicationState& app, UserInteraction& ui, QWidget* pare
     layout->addWidget(buildLeftPart(), 0);
     layout->addWidget(m_results, 1);
     setCentralWidget(central);
+    resize(OpeningWindowSize(screen()->availableGeometry()));
 
     connect(m_controls, &PanelControls::controlEntered, this, [this](bool dispensing, bool pump) {
         clearRecommendationLists(dispensing, pump);
@@ -139,9 +143,8 @@ void MainWindow::buildMenus() {
     });
     // Dispensers … Hoses: the component editors; after an Ok the lists are refilled.
     new ComponentEditorMenu(*this, m_context.app, m_context.ui, m_context.runEvent, [this] { refreshAll(); });
-    onTriggered(help, "mnuF1", [this] {
-        ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui);
-    });
+    onTriggered(help, "mnuF1",
+                [this] { ShowHelpTopic(m_context.app.programFolder / helpFileName, introductionTopic, m_context.ui); });
     new HelpKeys(*this, m_context.app.programFolder, m_context.ui);
 }
 

@@ -29,6 +29,8 @@ namespace {
 
 // The grids' width at design, from which their column widths are set.
 constexpr Double gridDesignWidthTwips = 9000;
+// Between the two labels of the legend, in pixels.
+constexpr int legendSpacing = 24;
 
 QColor gridColour(std::uint32_t colour) {
     // The grids hold colours as the platform does: blue in the high byte.
@@ -60,11 +62,17 @@ ResultsPanel::ResultsPanel(WindowContext& context, QWidget* parent)
 
     m_flowChart->setTitle(QString::fromLatin1(flowChartTitle));
     connect(m_flowChart, &ChartAdapter::pointHovered, this, &ResultsPanel::showPointToolTip);
-    layout->addWidget(m_msChart1, 3);
+    layout->addWidget(m_msChart1, 1);
 
+    // The legend: the two labels side by side from the left, whatever their
+    // texts; a long pump name is cut at the edge and never widens the window.
     auto* legend = new QHBoxLayout;
-    legend->addWidget(m_lblCurrentPump, 1);
-    legend->addWidget(m_lblBaselinePump, 1);
+    legend->setSpacing(legendSpacing);
+    for (QLabel* label : {m_lblCurrentPump, m_lblBaselinePump}) {
+        label->setMinimumWidth(1);
+        legend->addWidget(label);
+    }
+    legend->addStretch(1);
     layout->addLayout(legend);
 
     auto* buttons = new QHBoxLayout;
@@ -85,7 +93,8 @@ ResultsPanel::ResultsPanel(WindowContext& context, QWidget* parent)
     m_tabCurrentBaseline->addTab(m_flxCurrent, QStringLiteral("Current "));
     m_tabCurrentBaseline->addTab(m_flxBaseLine, QStringLiteral("BaseLine "));
     connect(m_tabCurrentBaseline, &QTabWidget::currentChanged, this, &ResultsPanel::followGridRow);
-    layout->addWidget(m_tabCurrentBaseline, 2);
+    // The graph and the grids share the height alike.
+    layout->addWidget(m_tabCurrentBaseline, 1);
     connectTabKeys();
 }
 

@@ -1,55 +1,23 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // vesk-calc --update from the outside: what it writes, its boxes on stderr and its exit codes.
+#include "calc_run.h"
 #include "support/recording_interaction.h"
 #include "support/temp_program_folder.h"
 
 #include "catalogue/standard_update.h"
 
-#include <array>
-#include <cstdio>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace vesk {
 namespace {
 
 namespace fs = std::filesystem;
+using test::CalcRun;
+using test::quoted;
 using test::RecordingInteraction;
+using test::runCalc;
 using test::TempProgramFolder;
-
-struct CalcRun {
-    std::string out;
-    std::string err;
-    int exitCode = -1;
-};
-
-std::string quoted(const fs::path& path) {
-    return "'" + path.string() + "'";
-}
-
-// Runs vesk-calc with the arguments, stdout and stderr caught apart.
-CalcRun runCalc(const std::string& arguments) {
-    const TempProgramFolder scratch;
-    const fs::path errFile = scratch.path() / "stderr";
-    const std::string command = quoted(VESK_CALC) + " " + arguments + " 2>" + quoted(errFile);
-    CalcRun run;
-    FILE* pipe = ::popen(command.c_str(), "r");
-    if (pipe == nullptr) {
-        ADD_FAILURE() << "cannot run " << command;
-        return run;
-    }
-    std::array<char, 4096> buffer{};
-    std::size_t count = 0;
-    while ((count = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0) {
-        run.out.append(buffer.data(), count);
-    }
-    const int status = ::pclose(pipe);
-    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    run.err = scratch.read("stderr");
-    return run;
-}
 
 // A copy of the shipped program folder with a maker's file beside it.
 struct MakerUpdate {

@@ -1,50 +1,21 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // vesk-calc from the outside: its output, its messages and its exit codes.
+#include "calc_run.h"
 #include "support/temp_program_folder.h"
 
 #include <array>
 #include <cstdio>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <sys/wait.h>
 
 namespace vesk {
 namespace {
 
+using test::CalcRun;
 using test::readBytes;
+using test::runCalc;
 using test::TempProgramFolder;
-
-struct CalcRun {
-    std::string out;
-    std::string err;
-    int exitCode = -1;
-};
-
-// Runs vesk-calc with the arguments, catching stdout and stderr apart; in
-// `workingFolder` when one is given.
-CalcRun runCalc(const std::string& arguments, const std::filesystem::path& workingFolder = {}) {
-    const auto errFile = std::filesystem::temp_directory_path() / ("vesk-calc-err-" + std::to_string(::getpid()));
-    const std::string changeFolder = workingFolder.empty() ? "" : "cd '" + workingFolder.string() + "' && ";
-    const std::string command = changeFolder + "'" + VESK_CALC + "' " + arguments + " 2>'" + errFile.string() + "'";
-    CalcRun run;
-    FILE* pipe = ::popen(command.c_str(), "r");
-    if (pipe == nullptr) {
-        ADD_FAILURE() << "cannot run " << command;
-        return run;
-    }
-    std::array<char, 4096> buffer{};
-    std::size_t count = 0;
-    while ((count = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0) {
-        run.out.append(buffer.data(), count);
-    }
-    const int status = ::pclose(pipe);
-    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    run.err = readBytes(errFile);
-    std::filesystem::remove(errFile);
-    return run;
-}
 
 std::string golden(const char* name) {
     return readBytes(std::filesystem::path(VESK_CLI_GOLDEN_DIR) / name);

@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The splash and the dialogs System Settings, System Headloss Details and About.
+#include "gui/common/qt_user_interaction.h"
 #include "gui/support/modal_driver.h"
 #include "gui/support/widgets.h"
-#include "support/started_app.h"
 #include "gui/workbench/about_dialog.h"
 #include "gui/workbench/details_dialog.h"
 #include "gui/workbench/dialogs.h"
-#include "gui/common/qt_user_interaction.h"
 #include "gui/workbench/settings_dialog.h"
 #include "gui/workbench/splash_window.h"
-
-#include "engine/numeric.h"
+#include "support/started_app.h"
 #include "workbench/details_view.h"
 #include "workbench/startup.h"
+
+#include "engine/numeric.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -64,7 +64,6 @@ class DialogsTest : public QObject {
   private slots:
     void initTestCase();
     void cleanup();
-
 
     void settingsDialogShowsTheSystemsTexts();
     void settingsDialogLoadsItsOptionsFromTheSettings_data();

@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the main window: the areas and their checks, the graph, the grids, the pump curve and the ways out.
-#include "gui/support/station.h"
 #include "gui/common/chart_adapter.h"
 #include "gui/common/field_filters.h"
 #include "gui/common/run_event.h"
-#include "gui/workbench/main_window.h"
 #include "gui/common/text_codec.h"
-
-#include "engine/numeric.h"
+#include "gui/support/station.h"
+#include "gui/workbench/main_window.h"
 #include "workbench/application_state.h"
 #include "workbench/field_checks.h"
 #include "workbench/flow_chart.h"
 #include "workbench/startup.h"
+
+#include "engine/numeric.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // Tests of the site files in the window: New, Open, Save, Save As, their questions, and Site Properties.
-#include "gui/support/screenshot.h"
-#include "gui/support/station.h"
 #include "gui/common/field_filters.h"
-#include "gui/workbench/main_window.h"
 #include "gui/common/qt_user_interaction.h"
 #include "gui/common/text_codec.h"
-
-#include "engine/numeric.h"
+#include "gui/support/screenshot.h"
+#include "gui/support/station.h"
+#include "gui/workbench/main_window.h"
 #include "workbench/application_state.h"
 #include "workbench/field_checks.h"
 #include "workbench/startup.h"
+
+#include "engine/numeric.h"
 
 #include <QAbstractButton>
 #include <QApplication>
