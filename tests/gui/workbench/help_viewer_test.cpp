@@ -3,6 +3,8 @@
 // The help viewer as a designer meets it: F1 in the main window opens the page, links and the contents are followed.
 #include "gui/common/help_viewer.h"
 #include "gui/common/qt_user_interaction.h"
+#include "gui/editors/component_editor_dialog.h"
+#include "gui/editors/editor_menu.h"
 #include "gui/support/screenshot.h"
 #include "gui/workbench/main_window.h"
 #include "support/temp_program_folder.h"
@@ -25,6 +27,7 @@ class HelpViewerTest : public QObject {
   private slots:
     void cleanup();
     void f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage();
+    void f1InTheHosesEditorOpensTheViewerOnTheHosesPageAndTheViewerTakesInput();
     void topicsAreFoundWithBackslashesAndWithoutRegardToCase();
     void linksStylesheetsAndTheContentsPageAreFollowedInsideTheFile();
     void aFileThatIsNoHelpFileOpensNothing();
@@ -60,6 +63,45 @@ void HelpViewerTest::f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage() {
     QVERIFY(window->isEnabled());
     vesk::gui::test::saveScreenshot(viewer, QStringLiteral("help_viewer_f1_pump_area"));
     vesk::gui::test::saveScreenshot(window.get(), QStringLiteral("help_viewer_main_window"));
+    window->hide();
+}
+
+void HelpViewerTest::f1InTheHosesEditorOpensTheViewerOnTheHosesPageAndTheViewerTakesInput() {
+    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    vesk::gui::QtUserInteraction ui(nullptr);
+    vesk::ApplicationState app;
+    app.programFolder = folder.path();
+    vesk::InitialiseMainWindow(app, ui);
+    auto window = std::make_unique<vesk::gui::MainWindow>(app, ui);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    auto* menu = window->findChild<vesk::gui::ComponentEditorMenu*>();
+    QVERIFY(menu != nullptr);
+    const auto runDirectly = [](const std::function<void()>& work) {
+        work();
+        return true;
+    };
+    auto editor = std::make_unique<vesk::gui::ComponentEditorDialog>(vesk::ComponentKind::Hose, app, menu->session(),
+                                                                     ui, runDirectly, window.get());
+    editor->show();
+    QVERIFY(QTest::qWaitForWindowActive(editor.get()));
+    QCOMPARE(editor->objectName(), QStringLiteral("frmHose"));
+    QTest::keyClick(editor.get(), Qt::Key_F1);
+
+    HelpViewer* viewer = HelpViewer::instance();
+    QVERIFY(viewer != nullptr);
+    QVERIFY(viewer->isVisible());
+    QCOMPARE(viewer->currentPath(), QStringLiteral("/Option Menu/Hoses.htm"));
+    QCOMPARE(viewer->browser()->documentTitle(), QStringLiteral("Hoses"));
+    // The editor is modal, yet the viewer takes the mouse and the keys: it
+    // stands as a window of the editor's own, which the editor does not block.
+    QVERIFY(editor->isModal());
+    QVERIFY(viewer->isWindow());
+    QCOMPARE(viewer->parentWidget(), editor.get());
+    QVERIFY(!QGuiApplication::modalWindow() || QGuiApplication::modalWindow() == editor->windowHandle());
+    vesk::gui::test::saveScreenshot(viewer, QStringLiteral("help_viewer_f1_hoses_editor"));
+    viewer->close();
+    editor->hide();
     window->hide();
 }
 
