@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The desktop program: the splash, then the main window over the state that start-up builds.
+#include "gui/common/qt_user_interaction.h"
 #include "gui/common/run_event.h"
 #include "gui/workbench/main_window.h"
-#include "gui/common/qt_user_interaction.h"
 #include "gui/workbench/splash_window.h"
-
-#include "site/program_folder.h"
 #include "workbench/application_state.h"
 #include "workbench/startup.h"
+
+#include "site/program_folder.h"
 
 #include <QApplication>
 #include <QTimer>

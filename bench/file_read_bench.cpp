@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 // The reading of the nine data files of the shipped program folder.
 #include "bench_support.h"
+#include "workbench/startup.h"
 
 #include "catalogue/component_file.h"
 #include "catalogue/piping_file.h"
-#include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 // The sweep of a typical 40-nozzle site on the shipped catalogue.
 #include "bench_support.h"
+#include "workbench/calculate.h"
+#include "workbench/startup.h"
 
 #include "engine/flow_sweep.h"
 #include "engine/pipe_friction.h"
-#include "workbench/calculate.h"
-#include "workbench/startup.h"
 
 #include <benchmark/benchmark.h>
 #include <cmath>

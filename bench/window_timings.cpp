@@ -23,11 +23,14 @@ namespace fs = std::filesystem;
 
 constexpr int presses = 10;
 
-double milliseconds(qint64 nanoseconds) { return static_cast<double>(nanoseconds) / 1e6; }
+double milliseconds(qint64 nanoseconds) {
+    return static_cast<double>(nanoseconds) / 1e6;
+}
 
 // A program folder of the shipped data of its own, so the harness writes into no tree.
 fs::path copyOfShippedFolder() {
-    const fs::path folder = fs::temp_directory_path() / ("vesk-window-timings-" + std::to_string(QCoreApplication::applicationPid()));
+    const fs::path folder =
+        fs::temp_directory_path() / ("vesk-window-timings-" + std::to_string(QCoreApplication::applicationPid()));
     fs::remove_all(folder);
     fs::copy(VESK_SHIPPED_DATA_DIR, folder, fs::copy_options::recursive);
     return folder;

@@ -38,9 +38,8 @@ constexpr const ComponentKindTraits& traitsOf(ComponentKind kind) {
 
 // The order in which start-up reads the files, right behind the piping file.
 inline constexpr std::array<ComponentKind, componentKindCount> startupReadOrder{
-    ComponentKind::Dispenser,    ComponentKind::DispenserOthers, ComponentKind::Nozzle,
-    ComponentKind::Hose,         ComponentKind::Breakaway,       ComponentKind::LeakDetector,
-    ComponentKind::PumpOthers,   ComponentKind::Pump,
+    ComponentKind::Dispenser, ComponentKind::DispenserOthers, ComponentKind::Nozzle,     ComponentKind::Hose,
+    ComponentKind::Breakaway, ComponentKind::LeakDetector,    ComponentKind::PumpOthers, ComponentKind::Pump,
 };
 
 } // namespace vesk

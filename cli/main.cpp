@@ -2,21 +2,21 @@
 // SPDX-License-Identifier: MIT
 // vesk-calc: the flows per nozzle of a site, calculated without a window.
 #include "cli/update_command.h"
-#include "engine/numeric.h"
-#include "messages/user_interaction.h"
 #include "reports/compare_table.h"
 #include "reports/design_comparison.h"
-#include "site/program_folder.h"
 #include "workbench/calculate.h"
 #include "workbench/site_file.h"
 #include "workbench/startup.h"
+
+#include "engine/numeric.h"
+#include "messages/user_interaction.h"
+#include "site/program_folder.h"
 
 #ifdef VESK_CALC_REPORT
 #include "gui/reports/report_pdf.h"
 #endif
 
 #include <CLI/CLI.hpp>
-#include <vesk_version.h>
 #include <charconv>
 #include <cstdio>
 #include <filesystem>
@@ -27,6 +27,7 @@
 #include <unistd.h>
 #include <variant>
 #include <vector>
+#include <vesk_version.h>
 
 namespace {
 

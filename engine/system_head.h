@@ -3,8 +3,8 @@
 // The total dynamic head that the pump set must deliver.
 #pragma once
 
-#include "engine/piping_tables.h"
 #include "engine/component_lookup.h"
+#include "engine/piping_tables.h"
 #include "engine/site_description.h"
 
 namespace vesk {

@@ -3,7 +3,6 @@
 // Fuzz target of the reader of the site file, applied to the panels of an
 // application started on a copy of the shipped program folder.
 #include "fuzz_contract.h"
-
 #include "workbench/site_file.h"
 #include "workbench/startup.h"
 

@@ -11,7 +11,8 @@
 namespace vesk {
 
 bool IsSectionKeyLine(int line) {
-    return std::any_of(sectionKeys.begin(), sectionKeys.end(), [line](const SectionKey& key) { return key.line == line; });
+    return std::any_of(sectionKeys.begin(), sectionKeys.end(),
+                       [line](const SectionKey& key) { return key.line == line; });
 }
 
 SiteFileLines ReadSiteFileLines(const std::filesystem::path& fileName) {

@@ -3,18 +3,19 @@
 // Everything the program keeps from its initialisation to its end.
 #pragma once
 
-#include "engine/catalogues.h"
-#include "engine/flow_sweep.h"
-#include "engine/piping_tables.h"
-#include "site/configure_data.h"
-#include "site/settings_file.h"
-#include "site/site_properties.h"
 #include "workbench/flow_chart.h"
 #include "workbench/panel_state.h"
 #include "workbench/pump_curve.h"
 #include "workbench/result_grid.h"
 #include "workbench/snapshot_store.h"
 #include "workbench/window_state.h"
+
+#include "engine/catalogues.h"
+#include "engine/flow_sweep.h"
+#include "engine/piping_tables.h"
+#include "site/configure_data.h"
+#include "site/settings_file.h"
+#include "site/site_properties.h"
 
 #include <filesystem>
 #include <string>

@@ -3,8 +3,9 @@
 // Calculate, Make Baseline and Back To Baseline: the sweeps of the two sides and what they draw.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+
+#include "messages/user_interaction.h"
 
 namespace vesk {
 

@@ -3,9 +3,10 @@
 // What the System Headloss Details dialog shows of a breakdown.
 #include "workbench/details_view.h"
 
-#include "engine/site_description.h"
 #include "workbench/calculate.h"
+
 #include "engine/number_format.h"
+#include "engine/site_description.h"
 
 namespace vesk {
 

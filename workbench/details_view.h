@@ -3,8 +3,9 @@
 // What the System Headloss Details dialog shows of a breakdown.
 #pragma once
 
-#include "engine/system_head.h"
 #include "workbench/application_state.h"
+
+#include "engine/system_head.h"
 
 #include <array>
 #include <string>

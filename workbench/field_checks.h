@@ -3,9 +3,10 @@
 // What the fields of the four areas accept, and how a bad entry is turned away.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
 #include "workbench/panel_fields.h"
+
+#include "messages/user_interaction.h"
 
 #include <array>
 #include <string>

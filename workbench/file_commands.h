@@ -3,8 +3,9 @@
 // The New, Open, Save and Save As commands of the File menu, with their dialogs and questions.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+
+#include "messages/user_interaction.h"
 
 namespace vesk {
 

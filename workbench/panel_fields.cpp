@@ -21,17 +21,20 @@ constexpr Double inches = units::centimetresPerInch;
 // rounded up.
 constexpr PanelField length(const char* name, Area area, std::string PS::*text, GridPlace cell, int fileLine,
                             int maxLength, const char* toolTip, LengthUnit unit) {
-    return {name, area, text, nullptr, 0, cell, fileLine, maxLength, FieldCheck::Length, KeyFilter::Decimal, toolTip,
-            unit};
+    return {name,    area, text, nullptr, 0, cell, fileLine, maxLength, FieldCheck::Length, KeyFilter::Decimal,
+            toolTip, unit};
 }
 
 constexpr PanelField fitting(const char* name, std::array<std::string, 4> PS::*fittings, std::size_t index,
                              GridPlace cell, int fileLine, const char* toolTip) {
-    return {name, Area::Piping, nullptr, fittings, index, cell, fileLine, 2, FieldCheck::Count, KeyFilter::Digits,
-            toolTip};
+    return {name, Area::Piping,      nullptr,           fittings, index, cell, fileLine,
+            2,    FieldCheck::Count, KeyFilter::Digits, toolTip};
 }
 
 } // namespace
+
+// The tables below stand one entry a line.
+// clang-format off
 
 // The help texts are the system's own, spelling included.
 const std::array<AreaInfo, areaCount> areas{{
@@ -122,6 +125,7 @@ const std::array<PanelList, 14> panelLists{{
     {"cmbNoOfBranches", Area::SiteLayout, &PS::cmbNoOfBranches, {33, 2}, 36, "Select the number of branches to be used",
      false},
 }};
+// clang-format on
 
 namespace {
 

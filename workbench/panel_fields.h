@@ -3,9 +3,10 @@
 // The one table of the panels' inputs: every text field and every list of the four areas.
 #pragma once
 
+#include "workbench/panel_state.h"
+
 #include "engine/units.h"
 #include "site/site_snapshot.h"
-#include "workbench/panel_state.h"
 
 #include <array>
 #include <span>
@@ -48,7 +49,7 @@ enum class FieldCheck { Length, Count, Nozzle, None };
 // hold feet (inches for the tank), the field metres (centimetres) when the
 // units are metric.
 struct LengthUnit {
-    Double metricPerUs = 0; // 0.3048 m a foot, 2.54 cm an inch; 0 for a number without a unit
+    Double metricPerUs = 0;                     // 0.3048 m a foot, 2.54 cm an inch; 0 for a number without a unit
     const char* labelControl = nullptr;         // the label beside the field
     std::string UnitCaptions::*label = nullptr; // its caption in the panels
     const char* usCaption = nullptr;            // in US units
@@ -66,16 +67,16 @@ struct LengthUnit {
 struct PanelField {
     const char* controlName; // "txtHoseLen", "txtTrunkFitting(0)"
     Area area;
-    std::string PanelState::*text = nullptr; // the field's text, or
+    std::string PanelState::*text = nullptr;                    // the field's text, or
     std::array<std::string, 4> PanelState::*fittings = nullptr; // one of a row of fitting counts
     std::size_t fitting = 0;
-    GridPlace cell{};         // where the grids list it
-    int fileLine = -1;        // its line in a site file; -1 for none
-    int maxLength = 0;        // characters; 0 for no limit
+    GridPlace cell{};  // where the grids list it
+    int fileLine = -1; // its line in a site file; -1 for none
+    int maxLength = 0; // characters; 0 for no limit
     FieldCheck check = FieldCheck::None;
     KeyFilter keys = KeyFilter::Digits;
     const char* toolTip = "";
-    LengthUnit unit{};        // for the lengths and the tank diameter
+    LengthUnit unit{}; // for the lengths and the tank diameter
 
     constexpr bool isLength() const { return unit.metricPerUs != 0; }
 };

@@ -3,8 +3,9 @@
 // The inputs of the main window and the System Settings dialog as plain data.
 #include "workbench/panel_state.h"
 
-#include "catalogue/component_lists.h"
 #include "workbench/panel_fields.h"
+
+#include "catalogue/component_lists.h"
 
 namespace vesk {
 

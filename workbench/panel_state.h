@@ -3,8 +3,8 @@
 // The inputs of the main window and the System Settings dialog as plain data.
 #pragma once
 
-#include "engine/catalogues.h"
 #include "catalogue/list_views.h"
+#include "engine/catalogues.h"
 #include "engine/site_description.h"
 #include "site/configure_data.h"
 

@@ -3,9 +3,10 @@
 // The pump performance curve of the Pump Area, as data for the chart.
 #pragma once
 
+#include "workbench/panel_state.h"
+
 #include "engine/catalogues.h"
 #include "site/configure_data.h"
-#include "workbench/panel_state.h"
 
 #include <optional>
 #include <string>

@@ -3,8 +3,9 @@
 // The grids flxCurrent and flxBaseLine as data: the inputs behind each line.
 #include "workbench/result_grid.h"
 
-#include "catalogue/component_lists.h"
 #include "workbench/panel_fields.h"
+
+#include "catalogue/component_lists.h"
 
 #include <optional>
 
@@ -105,7 +106,8 @@ std::optional<std::string> componentListName(const FrmDataOptions& dialog) {
 
 // Column 1 of the rows that no input of the panels fills; nullopt leaves the
 // cell as it was.
-std::optional<std::string> choiceText(long row, GridSide side, const PanelState& panel, const clsConfigureData& config) {
+std::optional<std::string> choiceText(long row, GridSide side, const PanelState& panel,
+                                      const clsConfigureData& config) {
     switch (row) {
     case 0:
         return "           Unit Selected ";

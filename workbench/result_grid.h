@@ -3,8 +3,9 @@
 // The grids flxCurrent and flxBaseLine as data: the inputs behind each line.
 #pragma once
 
-#include "site/configure_data.h"
 #include "workbench/panel_state.h"
+
+#include "site/configure_data.h"
 
 #include <array>
 #include <cstdint>

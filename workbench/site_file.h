@@ -3,9 +3,10 @@
 // What Save writes from the grid and what Open sets on the panels: the site file and the main window.
 #pragma once
 
+#include "workbench/application_state.h"
+
 #include "messages/user_interaction.h"
 #include "site/site_file_format.h"
-#include "workbench/application_state.h"
 
 #include <string>
 

@@ -3,10 +3,11 @@
 // Taking the snapshots of the panels and putting the Baseline's back.
 #pragma once
 
+#include "workbench/panel_state.h"
+
 #include "messages/user_interaction.h"
 #include "site/configure_data.h"
 #include "site/site_snapshot.h"
-#include "workbench/panel_state.h"
 
 namespace vesk {
 

@@ -3,11 +3,12 @@
 // The initialisation of the main window, at start-up and at File, New.
 #include "workbench/startup.h"
 
-#include "catalogue/component_file.h"
-#include "catalogue/piping_file.h"
 #include "workbench/calculate.h"
 #include "workbench/snapshot_store.h"
 #include "workbench/system_settings.h"
+
+#include "catalogue/component_file.h"
+#include "catalogue/piping_file.h"
 
 namespace vesk {
 

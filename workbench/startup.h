@@ -3,8 +3,9 @@
 // The initialisation of the main window, at start-up and at File, New.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+
+#include "messages/user_interaction.h"
 
 namespace vesk {
 

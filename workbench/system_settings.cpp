@@ -3,8 +3,9 @@
 // The Ok of the System Settings dialog: lists, settings, the fields converted once between units.
 #include "workbench/system_settings.h"
 
-#include "catalogue/component_lists.h"
 #include "workbench/panel_fields.h"
+
+#include "catalogue/component_lists.h"
 
 namespace vesk {
 

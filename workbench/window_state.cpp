@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// What the main window shows besides the inputs: the area on show, the inert recommendation lists, the site picture, the focus.
+// What the main window shows besides the inputs: the area on show, the inert recommendation lists, the site picture,
+// the focus.
 #include "workbench/window_state.h"
 
 #include <algorithm>
@@ -11,8 +12,8 @@ namespace vesk {
 namespace {
 
 // The controls whose focus clears a list, whatever they show.
-constexpr std::array<std::string_view, 5> clearDispensing{"cmbDispenser", "cmbBreakAway", "cmbDispOthers",
-                                                          "txtHoseLen", "txtNoOfNozzle"};
+constexpr std::array<std::string_view, 5> clearDispensing{"cmbDispenser", "cmbBreakAway", "cmbDispOthers", "txtHoseLen",
+                                                          "txtNoOfNozzle"};
 constexpr std::array<std::string_view, 4> clearPump{"cmbPumpOthers", "cmbQuantity", "opt50Hz", "opt60Hz"};
 
 template <std::size_t N> bool isOneOf(std::string_view control, const std::array<std::string_view, N>& names) {

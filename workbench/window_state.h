@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
-// What the main window shows besides the inputs: the area on show, the inert recommendation lists, the site picture, the focus.
+// What the main window shows besides the inputs: the area on show, the inert recommendation lists, the site picture,
+// the focus.
 #pragma once
 
 #include "workbench/panel_fields.h"

@@ -3,11 +3,11 @@
 // The System Headloss Details dialog, frmDetails: the head loss by component.
 #include "gui/workbench/details_dialog.h"
 
-#include "gui/workbench/dialogs.h"
 #include "gui/common/text_codec.h"
+#include "gui/workbench/dialogs.h"
+#include "workbench/details_view.h"
 
 #include "engine/flow_sweep.h"
-#include "workbench/details_view.h"
 
 #include <QFrame>
 #include <QGridLayout>

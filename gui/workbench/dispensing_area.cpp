@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The Dispensing Area: dispenser, breakaway, hose, nozzle, others and the number of nozzles.
-#include "gui/workbench/areas.h"
-
 #include "gui/workbench/area_widgets.h"
+#include "gui/workbench/areas.h"
 #include "gui/workbench/recommendation_lists.h"
 
 #include <QComboBox>

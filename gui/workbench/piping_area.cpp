@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The Piping Area: material, branch and trunk with their fittings and valves, or one pipe in the Basic mode.
-#include "gui/workbench/areas.h"
-
 #include "gui/workbench/area_widgets.h"
+#include "gui/workbench/areas.h"
 #include "workbench/panel_events.h"
 
 #include <QCheckBox>
@@ -45,7 +44,8 @@ Qt::CheckState checkStateOf(Integer value) {
 } // namespace
 
 PipingArea::PipingArea(WindowContext& context, PanelControls& controls)
-    : m_context(context), m_controls(controls), m_optBasic(named(new QRadioButton(QStringLiteral("Basic")), "optBasic")),
+    : m_context(context), m_controls(controls),
+      m_optBasic(named(new QRadioButton(QStringLiteral("Basic")), "optBasic")),
       m_optAdvance(named(new QRadioButton(QStringLiteral("Advance")), "optAdvance")),
       m_fraBranch(frame("fraBranch", "Branch Info")), m_fraTrunk(frame("fraTrunk", "Trunk Info")),
       m_fraPipeInfo(frame("fraPipeInfo", "PipeInfo")),

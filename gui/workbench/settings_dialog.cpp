@@ -4,7 +4,6 @@
 #include "gui/workbench/settings_dialog.h"
 
 #include "gui/workbench/dialogs.h"
-
 #include "workbench/system_settings.h"
 
 #include <QGroupBox>

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Vesk developers
 // SPDX-License-Identifier: MIT
 // The Site Layout: the tank, the bury depth, the rise, the number of branches and the picture of the site.
-#include "gui/workbench/areas.h"
-
 #include "gui/workbench/area_widgets.h"
+#include "gui/workbench/areas.h"
 #include "workbench/site_picture.h"
 
 #include <QComboBox>

@@ -3,8 +3,9 @@
 // The Site Properties dialog, frmSiteProperties: the ten texts of a site and its report.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+
+#include "messages/user_interaction.h"
 
 #include <QDialog>
 #include <array>

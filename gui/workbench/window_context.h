@@ -3,8 +3,9 @@
 // What every part of the main window works with: the state, the seam, and the way an event runs.
 #pragma once
 
-#include "messages/user_interaction.h"
 #include "workbench/application_state.h"
+
+#include "messages/user_interaction.h"
 
 #include <functional>
 

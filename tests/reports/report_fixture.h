@@ -3,9 +3,9 @@
 // An application started on a copy of the shipped program folder, for the tests of the reports.
 #pragma once
 
+#include "support/started_app.h"
 #include "workbench/field_checks.h"
 #include "workbench/site_file.h"
-#include "support/started_app.h"
 
 #include <gtest/gtest.h>
 

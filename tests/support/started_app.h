@@ -5,7 +5,6 @@
 
 #include "support/recording_interaction.h"
 #include "support/temp_program_folder.h"
-
 #include "workbench/calculate.h"
 #include "workbench/startup.h"
 #include "workbench/system_settings.h"

@@ -12,14 +12,18 @@ namespace vesk::test {
 
 namespace fs = std::filesystem;
 
-fs::path shippedDataDir() { return VESK_SHIPPED_DATA_DIR; }
-fs::path testsDir() { return VESK_TESTS_DIR; }
+fs::path shippedDataDir() {
+    return VESK_SHIPPED_DATA_DIR;
+}
+fs::path testsDir() {
+    return VESK_TESTS_DIR;
+}
 
 namespace {
 fs::path freshFolder() {
     static std::atomic<int> counter{0};
-    const fs::path folder = fs::temp_directory_path() /
-                            ("vesk-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+    const fs::path folder =
+        fs::temp_directory_path() / ("vesk-test-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
     fs::remove_all(folder);
     fs::create_directories(folder / "Components");
     return folder;
@@ -56,7 +60,9 @@ void TempProgramFolder::writeLines(std::string_view relative, std::initializer_l
     write(relative, crlfLines(lines));
 }
 
-std::string TempProgramFolder::read(std::string_view relative) const { return readBytes(m_path / relative); }
+std::string TempProgramFolder::read(std::string_view relative) const {
+    return readBytes(m_path / relative);
+}
 
 std::string readBytes(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
@@ -73,7 +79,9 @@ std::map<std::string, std::string> filesIn(const fs::path& folder) {
     return files;
 }
 
-void TempProgramFolder::remove(std::string_view relative) const { fs::remove(m_path / relative); }
+void TempProgramFolder::remove(std::string_view relative) const {
+    fs::remove(m_path / relative);
+}
 
 std::string crlfLines(std::initializer_list<std::string_view> lines) {
     std::string text;

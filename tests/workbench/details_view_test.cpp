@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The lines of the System Headloss Details dialog.
 #include "workbench/details_view.h"
+
 #include "engine/number_format.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 // The key filters and lost-focus checks of the fields, and the way out.
 #include "support/started_app.h"
-
 #include "workbench/field_checks.h"
 #include "workbench/file_commands.h"
 

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 // File, New, Open, Save and Save As: their dialogs, their questions and what each branch leaves.
 #include "panel_view.h"
-#include "support/started_app.h"
 #include "support/failure_of.h"
-
-#include "catalogue/text_lines.h"
+#include "support/started_app.h"
 #include "workbench/field_checks.h"
 #include "workbench/file_commands.h"
 #include "workbench/site_file.h"
+
+#include "catalogue/text_lines.h"
 
 #include <algorithm>
 #include <fstream>
@@ -22,13 +22,13 @@ namespace {
 using test::changed;
 using test::chooseSettings;
 using test::failureOf;
+using test::filesIn;
 using test::gridText;
 using test::join;
 using test::panelState;
+using test::readBytes;
 using test::start;
 using test::Started;
-using test::filesIn;
-using test::readBytes;
 using test::TempProgramFolder;
 
 namespace fs = std::filesystem;

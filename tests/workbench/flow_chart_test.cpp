@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 // The Dynamic Flow Graph after Calculate, Make Baseline and a change of units.
 #include "support/started_app.h"
+#include "workbench/flow_chart.h"
 
 #include "engine/chart_scale.h"
-#include "workbench/flow_chart.h"
 
 #include <gtest/gtest.h>
 

@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 // The table of the panels' fields and lists, and the table of the component lists.
 #include "support/failure_of.h"
-
-#include "catalogue/component_lists.h"
-#include "site/site_file_format.h"
 #include "workbench/panel_fields.h"
 #include "workbench/result_grid.h"
 
-#include <gtest/gtest.h>
+#include "catalogue/component_lists.h"
+#include "site/site_file_format.h"
 
 #include <cmath>
+#include <gtest/gtest.h>
 #include <set>
 #include <string>
 

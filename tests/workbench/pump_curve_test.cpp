@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 // The pump performance curve of the Pump Area.
 #include "support/started_app.h"
+#include "workbench/pump_curve.h"
 
 #include "engine/chart_scale.h"
-#include "workbench/pump_curve.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 // The rows of flxCurrent and flxBaseLine.
 #include "support/started_app.h"
-
 #include "workbench/result_grid.h"
 
 #include <gtest/gtest.h>

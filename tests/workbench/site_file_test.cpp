@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 // Writing and reading the site file, and File, Open, Save and New around them.
 #include "panel_view.h"
-#include "support/started_app.h"
 #include "support/failure_of.h"
+#include "support/started_app.h"
+#include "workbench/site_file.h"
 
 #include "catalogue/text_lines.h"
-#include "workbench/site_file.h"
 #include "site/site_properties.h"
 
 #include <fstream>
@@ -23,10 +23,10 @@ using test::join;
 using test::panelState;
 
 using test::failureOf;
+using test::readBytes;
 using test::shippedWithSettings;
 using test::start;
 using test::Started;
-using test::readBytes;
 using test::TempProgramFolder;
 
 namespace fs = std::filesystem;

@@ -3,9 +3,9 @@
 // Round trips of random sites through the site file, in US and in metric units.
 #include "panel_view.h"
 #include "support/started_app.h"
+#include "workbench/site_file.h"
 
 #include "engine/site_description.h"
-#include "workbench/site_file.h"
 #include "site/site_properties.h"
 
 #include <cstdint>

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 // The snapshots of the panels, Back To Baseline, and the unsaved-work flag.
 #include "support/started_app.h"
-
 #include "workbench/snapshot_store.h"
 
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 // What start-up makes of a program folder: lists, fields, flags and the first results.
 #include "support/started_app.h"
+#include "workbench/startup.h"
 
 #include "engine/pipe_friction.h"
-#include "workbench/startup.h"
 
 #include <gtest/gtest.h>
 

@@ -69,7 +69,9 @@ Station::Station(const std::function<void(const TempProgramFolder&)>& prepare)
     start();
 }
 
-Station::Station(const TempProgramFolder& programFolder) : folder(programFolder) { start(); }
+Station::Station(const TempProgramFolder& programFolder) : folder(programFolder) {
+    start();
+}
 
 void Station::start() {
     app.programFolder = folder.path();
@@ -86,9 +88,13 @@ QAction* Station::action(const char* name) const {
     return window->menuBar()->findChild<QAction*>(QString::fromLatin1(name));
 }
 
-void Station::trigger(const char* name) const { action(name)->trigger(); }
+void Station::trigger(const char* name) const {
+    action(name)->trigger();
+}
 
-void Station::click(const char* name) const { find<QAbstractButton>(name)->click(); }
+void Station::click(const char* name) const {
+    find<QAbstractButton>(name)->click();
+}
 
 std::string Station::sitePath(const char* name) const {
     return (app.programFolder / "SaveSiteInfo" / name).string();
@@ -127,8 +133,7 @@ bool Station::driveDialog(const char* command, const std::function<void(QDialog*
 void Station::chooseUnits(bool metric) const {
     bool pressed = false;
     driveDialog("mnuSystemSettings", [&pressed, metric](QDialog* dialog) {
-        auto* option =
-            dialog->findChild<QRadioButton*>(metric ? QStringLiteral("optMetric") : QStringLiteral("optUS"));
+        auto* option = dialog->findChild<QRadioButton*>(metric ? QStringLiteral("optMetric") : QStringLiteral("optUS"));
         auto* ok = dialog->findChild<QPushButton*>(QStringLiteral("cmdOk"));
         if (option != nullptr && ok != nullptr) {
             option->click();

@@ -3,11 +3,10 @@
 // A station under test: a program folder, the application started on it and the main window over it.
 #pragma once
 
-#include "support/recording_interaction.h"
-#include "support/temp_program_folder.h"
-
 #include "gui/common/field_filters.h"
 #include "gui/workbench/main_window.h"
+#include "support/recording_interaction.h"
+#include "support/temp_program_folder.h"
 #include "workbench/application_state.h"
 
 #include <QColor>
