@@ -3,6 +3,7 @@
 // Paths below the program folder, found without regard to letter case.
 #include "catalogue/data_file_path.h"
 
+#include "engine/ascii_case.h"
 #include "engine/numeric.h"
 
 #include <fstream>
@@ -18,22 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* fileAccessError = "Path/File access error";
-
-char lowerAscii(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool equalIgnoringAsciiCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (lowerAscii(a[i]) != lowerAscii(b[i])) {
-            return false;
-        }
-    }
-    return true;
-}
 
 // The components of a relative path. Both "/" and "\" separate them, so the
 // system's own "\Components\PUMP.DAT" is understood; empty components are
@@ -69,7 +54,7 @@ std::optional<fs::path> findEntry(const fs::path& folder, const std::string& nam
     std::optional<std::string> match;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         const std::string candidate = entry->path().filename().string();
-        if (equalIgnoringAsciiCase(candidate, name) && (!match || candidate < *match)) {
+        if (EqualIgnoringCase(candidate, name) && (!match || candidate < *match)) {
             match = candidate;
         }
     }

@@ -5,6 +5,7 @@
 #include "catalogue/standard_update.h"
 
 #include "catalogue/data_file_path.h"
+#include "engine/ascii_case.h"
 
 #include <algorithm>
 #include <system_error>
@@ -15,14 +16,6 @@ namespace vesk {
 namespace {
 
 constexpr std::string_view standardOrigin = "#Standard#";
-
-// ASCII upper case, as the names are compared.
-std::string upperCase(std::string_view text) {
-    std::string upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return upper;
-}
 
 bool isRegularFile(const std::filesystem::path& file) {
     std::error_code error;
@@ -65,9 +58,9 @@ std::string ChosenFileName(std::string_view chosenPath) {
 }
 
 std::optional<UpdateFileName> FindUpdateFileName(std::string_view chosenFileName) {
-    const std::string upper = upperCase(chosenFileName);
+    const std::string upper = UpperCase(chosenFileName);
     for (const UpdateFileName& entry : updateFileNames) {
-        if (upperCase(entry.name) == upper) {
+        if (UpperCase(entry.name) == upper) {
             return entry;
         }
     }

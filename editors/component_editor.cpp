@@ -10,6 +10,7 @@
 #include "catalogue/component_file.h"
 #include "catalogue/component_lists.h"
 #include "catalogue/editor_record.h"
+#include "engine/ascii_case.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,15 +32,6 @@ constexpr int enterName = 6;
 constexpr int nameIsNone = 30;
 constexpr int invalidHoseSize = 31;
 } // namespace message
-
-char lower(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return lower(x) == lower(y); });
-}
 
 // A cell taken to Single, to text, rounded to 1 decimal and stored as Single.
 Single storedCell(const std::string& cell) {
@@ -648,17 +640,17 @@ bool ComponentEditor::nameLostFocus() {
         refuseName(message::enterName);
         return true;
     }
-    if (!isHose() && equalIgnoringCase(text, "none")) {
+    if (!isHose() && EqualIgnoringCase(text, "none")) {
         refuseName(message::nameIsNone);
         return true;
     }
     if (m_session.Editing) {
         for (int i = 0; i <= top() - 1; ++i) {
             m_c.listIndex = i;
-            if (equalIgnoringCase(text, rememberedName)) {
+            if (EqualIgnoringCase(text, rememberedName)) {
                 break; // an unchanged name is good
             }
-            if (equalIgnoringCase(text, at(m_c.list, i))) {
+            if (EqualIgnoringCase(text, at(m_c.list, i))) {
                 refuseName(message::nameExists);
                 m_c.listIndex = remembered;
                 return true;
@@ -669,7 +661,7 @@ bool ComponentEditor::nameLostFocus() {
     if (m_session.Adding) {
         for (int i = 0; i <= top(); ++i) {
             m_c.listIndex = i;
-            if (equalIgnoringCase(text, at(m_c.list, i))) {
+            if (EqualIgnoringCase(text, at(m_c.list, i))) {
                 refuseName(message::nameExists);
                 m_c.listIndex = 0;
                 return true;

@@ -3,6 +3,8 @@
 // The numeric types and helpers that every rule of the system computes with.
 #include "engine/numeric.h"
 
+#include "engine/ascii_case.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -223,27 +225,12 @@ Double leadingNumber(std::string_view text) {
     return convertNumber(text.substr(0, length));
 }
 
-namespace {
-bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
-        if (lower(a[i]) != lower(b[i])) {
-            return false;
-        }
-    }
-    return true;
-}
-} // namespace
-
 bool parseBoolean(std::string_view text) {
     const std::string_view word = trimBlanks(text);
-    if (equalsIgnoringCase(word, "#TRUE#") || equalsIgnoringCase(word, "True")) {
+    if (EqualIgnoringCase(word, "#TRUE#") || EqualIgnoringCase(word, "True")) {
         return true;
     }
-    if (equalsIgnoringCase(word, "#FALSE#") || equalsIgnoringCase(word, "False")) {
+    if (EqualIgnoringCase(word, "#FALSE#") || EqualIgnoringCase(word, "False")) {
         return false;
     }
     return parseNumber(word) != 0;
