@@ -3,52 +3,34 @@
 // A timed harness of the pump editor's window in metric units: opened and shown, and its Ok pressed.
 #include "gui/common/qt_user_interaction.h"
 #include "gui/editors/component_editor_dialog.h"
+#include "timed_harness.h"
 #include "workbench/startup.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTest>
-#include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <vector>
 
 namespace {
 
-namespace fs = std::filesystem;
+using vesk::bench::milliseconds;
 
 constexpr int rounds = 20;
-
-double milliseconds(qint64 nanoseconds) {
-    return static_cast<double>(nanoseconds) / 1e6;
-}
-
-// A program folder of the shipped data of its own, set to metric units.
-fs::path metricCopyOfShippedFolder() {
-    const fs::path folder =
-        fs::temp_directory_path() / ("vesk-editor-timings-" + std::to_string(QCoreApplication::applicationPid()));
-    fs::remove_all(folder);
-    fs::copy(VESK_SHIPPED_DATA_DIR, folder, fs::copy_options::recursive);
-    std::ofstream(folder / "Vesk.ini", std::ios::binary) << "40\r\n4\r\nTrue\r\nFalse\r\nA\r\n";
-    return folder;
-}
-
-void report(const char* what, std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    std::printf("%s: median %.2f ms, worst %.2f ms\n", what, times[times.size() / 2], times.back());
-}
 
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    const fs::path folder = metricCopyOfShippedFolder();
+    const vesk::bench::ScratchProgramFolder folder("vesk-editor-timings");
+    // In metric units.
+    std::ofstream(folder.path() / "Vesk.ini", std::ios::binary) << "40\r\n4\r\nTrue\r\nFalse\r\nA\r\n";
     {
         vesk::ApplicationState app;
         vesk::gui::QtUserInteraction ui(nullptr);
-        app.programFolder = folder;
+        app.programFolder = folder.path();
         vesk::InitialiseMainWindow(app, ui);
         vesk::EditorSession session;
         const vesk::gui::EventRunner runEvent = [](const std::function<void()>& work) {
@@ -76,9 +58,9 @@ int main(int argc, char** argv) {
                 return 1;
             }
         }
-        report("Pump editor in metric units, opened and shown", opened);
-        report("Its Ok: catalogue back to US, Pump.DAT written, lists refilled, closed", okPressed);
+        vesk::bench::printMedianAndWorst("Pump editor in metric units, opened and shown", opened);
+        vesk::bench::printMedianAndWorst("Its Ok: catalogue back to US, Pump.DAT written, lists refilled, closed",
+                                         okPressed);
     }
-    fs::remove_all(folder);
     return 0;
 }

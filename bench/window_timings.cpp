@@ -4,6 +4,7 @@
 #include "gui/common/field_filters.h"
 #include "gui/common/qt_user_interaction.h"
 #include "gui/workbench/main_window.h"
+#include "timed_harness.h"
 #include "workbench/application_state.h"
 #include "workbench/startup.h"
 
@@ -12,29 +13,14 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTest>
-#include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <vector>
 
 namespace {
 
-namespace fs = std::filesystem;
+using vesk::bench::milliseconds;
 
 constexpr int presses = 10;
-
-double milliseconds(qint64 nanoseconds) {
-    return static_cast<double>(nanoseconds) / 1e6;
-}
-
-// A program folder of the shipped data of its own, so the harness writes into no tree.
-fs::path copyOfShippedFolder() {
-    const fs::path folder =
-        fs::temp_directory_path() / ("vesk-window-timings-" + std::to_string(QCoreApplication::applicationPid()));
-    fs::remove_all(folder);
-    fs::copy(VESK_SHIPPED_DATA_DIR, folder, fs::copy_options::recursive);
-    return folder;
-}
 
 void measureCalculateOnFortyNozzles(vesk::gui::MainWindow& window) {
     auto* nozzles = window.findChild<QLineEdit*>(QStringLiteral("txtNoOfNozzle"));
@@ -52,23 +38,19 @@ void measureCalculateOnFortyNozzles(vesk::gui::MainWindow& window) {
         window.repaint();
         painted.push_back(milliseconds(timer.nsecsElapsed()));
     }
-    std::sort(pressed.begin(), pressed.end());
-    std::sort(painted.begin(), painted.end());
-    std::printf("Calculate on 40 nozzles, sweep and redraw: median %.1f ms, worst %.1f ms\n", pressed[presses / 2],
-                pressed.back());
-    std::printf("The same with the window painted: median %.1f ms, worst %.1f ms\n", painted[presses / 2],
-                painted.back());
+    vesk::bench::printMedianAndWorst("Calculate on 40 nozzles, sweep and redraw", pressed);
+    vesk::bench::printMedianAndWorst("The same with the window painted", painted);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    const fs::path folder = copyOfShippedFolder();
+    const vesk::bench::ScratchProgramFolder folder("vesk-window-timings");
     {
         vesk::ApplicationState app;
         vesk::gui::QtUserInteraction ui(nullptr);
-        app.programFolder = folder;
+        app.programFolder = folder.path();
         QElapsedTimer timer;
         timer.start();
         vesk::InitialiseMainWindow(app, ui);
@@ -84,6 +66,5 @@ int main(int argc, char** argv) {
                     milliseconds(timer.nsecsElapsed()), milliseconds(initialised));
         measureCalculateOnFortyNozzles(window);
     }
-    fs::remove_all(folder);
     return 0;
 }

@@ -139,35 +139,23 @@ void ComponentEditor::setFrameEnabled(bool enabled) {
 
 // ---------------------------------------------------------------- options
 
-// Setting an option that is off runs its click, as the user's click does.
-void ComponentEditor::setGas() {
-    if (m_c.gas.value) {
+// Setting a fuel that is off runs its click, as the user's click does: with
+// PSI shown, the table turns to the pressure of the new fuel.
+void ComponentEditor::setFuel(bool diesel) {
+    OptionControl& chosen = diesel ? m_c.diesel : m_c.gas;
+    OptionControl& other = diesel ? m_c.gas : m_c.diesel;
+    if (chosen.value) {
         return;
     }
-    m_c.gas.value = true;
-    m_c.diesel.value = false;
-    m_wasGas = true;
+    chosen.value = true;
+    other.value = false;
+    (diesel ? m_wasDiesel : m_wasGas) = true;
     if (m_c.psi.value) {
         m_selected = static_cast<Integer>(m_c.listIndex);
-        const bool fromDiesel = std::exchange(m_wasDiesel, false);
+        const bool fromOtherFuel = std::exchange(diesel ? m_wasGas : m_wasDiesel, false);
         RewriteGrid(
-            m_c.grid.rows(), [fromDiesel](Single psi) { return PressureForFuel(psi, false, fromDiesel); },
-            RewriteText::AsSingle);
-    }
-}
-
-void ComponentEditor::setDiesel() {
-    if (m_c.diesel.value) {
-        return;
-    }
-    m_c.diesel.value = true;
-    m_c.gas.value = false;
-    m_wasDiesel = true;
-    if (m_c.psi.value) {
-        m_selected = static_cast<Integer>(m_c.listIndex);
-        const bool fromGas = std::exchange(m_wasGas, false);
-        RewriteGrid(
-            m_c.grid.rows(), [fromGas](Single psi) { return PressureForFuel(psi, true, fromGas); },
+            m_c.grid.rows(),
+            [diesel, fromOtherFuel](Single psi) { return PressureForFuel(psi, diesel, fromOtherFuel); },
             RewriteText::AsSingle);
     }
 }

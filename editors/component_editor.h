@@ -137,8 +137,9 @@ class ComponentEditor {
     void fillList();
     void setUnitCaptions();
     void setFrameEnabled(bool enabled);
-    void setGas();
-    void setDiesel();
+    void setFuel(bool diesel);
+    void setGas() { setFuel(false); }
+    void setDiesel() { setFuel(true); }
     void setFeet();
     void clearHeadOptions();
     void fillGridFrom(const ComponentRecord& record);

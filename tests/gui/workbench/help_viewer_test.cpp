@@ -21,6 +21,27 @@
 using vesk::gui::HelpViewer;
 using vesk::test::TempProgramFolder;
 
+namespace {
+
+// The main window over a copy of the shipped program folder, with the real
+// boxes and help viewer of the program, on show.
+struct RealWindow {
+    TempProgramFolder folder = TempProgramFolder::copyOfShipped();
+    vesk::gui::QtUserInteraction ui{nullptr};
+    vesk::ApplicationState app;
+    std::unique_ptr<vesk::gui::MainWindow> window;
+
+    RealWindow() {
+        app.programFolder = folder.path();
+        vesk::InitialiseMainWindow(app, ui);
+        window = std::make_unique<vesk::gui::MainWindow>(app, ui);
+        window->show();
+    }
+    bool shown() const { return QTest::qWaitForWindowExposed(window.get()); }
+};
+
+} // namespace
+
 class HelpViewerTest : public QObject {
     Q_OBJECT
 
@@ -41,14 +62,9 @@ void HelpViewerTest::cleanup() {
 }
 
 void HelpViewerTest::f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage() {
-    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-    vesk::gui::QtUserInteraction ui(nullptr);
-    vesk::ApplicationState app;
-    app.programFolder = folder.path();
-    vesk::InitialiseMainWindow(app, ui);
-    auto window = std::make_unique<vesk::gui::MainWindow>(app, ui);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    RealWindow real;
+    QVERIFY(real.shown());
+    vesk::gui::MainWindow* window = real.window.get();
     window->findChild<QPushButton*>(QStringLiteral("cmdPump"))->click();
     auto* pumps = window->findChild<QComboBox*>(QStringLiteral("cmbPumps"));
     QTest::keyClick(pumps, Qt::Key_F1);
@@ -62,27 +78,22 @@ void HelpViewerTest::f1InThePumpAreaOpensTheViewerOnTheMainWindowsPage() {
     // The main window goes on beside it.
     QVERIFY(window->isEnabled());
     vesk::gui::test::saveScreenshot(viewer, QStringLiteral("help_viewer_f1_pump_area"));
-    vesk::gui::test::saveScreenshot(window.get(), QStringLiteral("help_viewer_main_window"));
+    vesk::gui::test::saveScreenshot(window, QStringLiteral("help_viewer_main_window"));
     window->hide();
 }
 
 void HelpViewerTest::f1InTheHosesEditorOpensTheViewerOnTheHosesPageAndTheViewerTakesInput() {
-    const TempProgramFolder folder = TempProgramFolder::copyOfShipped();
-    vesk::gui::QtUserInteraction ui(nullptr);
-    vesk::ApplicationState app;
-    app.programFolder = folder.path();
-    vesk::InitialiseMainWindow(app, ui);
-    auto window = std::make_unique<vesk::gui::MainWindow>(app, ui);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    RealWindow real;
+    QVERIFY(real.shown());
+    vesk::gui::MainWindow* window = real.window.get();
     auto* menu = window->findChild<vesk::gui::ComponentEditorMenu*>();
     QVERIFY(menu != nullptr);
     const auto runDirectly = [](const std::function<void()>& work) {
         work();
         return true;
     };
-    auto editor = std::make_unique<vesk::gui::ComponentEditorDialog>(vesk::ComponentKind::Hose, app, menu->session(),
-                                                                     ui, runDirectly, window.get());
+    auto editor = std::make_unique<vesk::gui::ComponentEditorDialog>(vesk::ComponentKind::Hose, real.app,
+                                                                     menu->session(), real.ui, runDirectly, window);
     editor->show();
     QVERIFY(QTest::qWaitForWindowActive(editor.get()));
     QCOMPARE(editor->objectName(), QStringLiteral("frmHose"));
